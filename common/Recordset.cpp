@@ -1,0 +1,5 @@
+#include "common/Recordset.h"
+
+QDateTime zeroDate() {
+    return QDateTime(QDate(1899, 12, 30), QTime(0, 0, 0));
+}

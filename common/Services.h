@@ -1,0 +1,63 @@
+#pragma once
+
+#include <QString>
+#include <functional>
+#include <memory>
+
+#include "common/Clock.h"
+#include "common/CoreLibraries.h"
+#include "common/PlatformUi.h"
+#include "common/Recordset.h"
+#include "common/StaffClient.h"
+
+// Name and version of the program, for the error report's version head and the traces.
+struct ProgramInfo {
+    QString fileName = QStringLiteral("ZPKyAutoJobVerw");
+    int major = AJV_VERSION_MAJOR;
+    int minor = AJV_VERSION_MINOR;
+    int revision = AJV_VERSION_PATCH;
+};
+
+// The one registry through which everything concrete is handed in at start: which database,
+// which windows, which clock. The host or the test fills it; the logic only reads it.
+// A factory that is not set, or that gives nothing, means the library object cannot be
+// created: the creation guard turns that into an error report.
+struct Services {
+    template <class T>
+    using Factory = std::function<std::unique_ptr<T>()>;
+
+    ProgramInfo program;
+    std::shared_ptr<IClock> clock;
+    std::shared_ptr<PlatformUi> ui;
+
+    Factory<CRecordset> newRecordset;
+    Factory<CoreToolsClass> newCoreTools;
+    Factory<CoreErrorClass> newCoreError;
+    Factory<CoreConvertClass> newCoreConvert;
+    Factory<CoreHelpClass> newCoreHelp;
+    Factory<LogClass> newLog;
+    Factory<OIMitarbeiterClass> newMitarbeiter;
+    Factory<OIMandantClass> newMandant;
+
+    // The two global objects of the core library, alive from first use to the end.
+    std::shared_ptr<CoreGlobalClass> coreGlobal;
+    std::shared_ptr<CoreTexteClass> coreTexte;
+};
+
+Services& services();
+
+// Replaces the registry for the lifetime of the object and restores the former one after;
+// tests and the scenario runner build one world each.
+class ScopedServices {
+  public:
+    explicit ScopedServices(Services s);
+    ~ScopedServices();
+    ScopedServices(const ScopedServices&) = delete;
+    ScopedServices& operator=(const ScopedServices&) = delete;
+
+  private:
+    Services saved_;
+};
+
+// The registry's clock, or the system's when none is set.
+QDateTime clockNow();

@@ -1,0 +1,173 @@
+#include "suite/Database.h"
+
+#include <sqlite3.h>
+
+#include <QFile>
+#include <QSqlDatabase>
+#include <QSqlDriver>
+#include <QSqlError>
+#include <QSqlQuery>
+#include <atomic>
+
+#include "suite/SqlErrors.h"
+#include "suite/SqlFunctions.h"
+#include "suite/SqliteRecordset.h"
+
+namespace {
+
+QString nextConnectionName() {
+    static std::atomic<int> counter{0};
+    return QStringLiteral("ajv-database-%1").arg(++counter);
+}
+
+sqlite3* sqliteHandle(const QSqlDatabase& db) {
+    const QVariant handle = db.driver()->handle();
+    if (handle.isValid() && qstrcmp(handle.typeName(), "sqlite3*") == 0) {
+        return *static_cast<sqlite3* const*>(handle.constData());
+    }
+    return nullptr;
+}
+
+QSqlDatabase connectionOf(const QString& name) {
+    return QSqlDatabase::database(name, false);
+}
+
+RaisedError sqliteFailure(sqlite3* db, const QString& statement) {
+    return SqlErrors::raised(
+        sqlite3_errcode(db) & 0xff,
+        QString::fromUtf8(sqlite3_errmsg(db)) + QStringLiteral("\r\n") + statement.trimmed());
+}
+
+void execute(sqlite3* db, const char* sql) {
+    if (sqlite3_exec(db, sql, nullptr, nullptr, nullptr) != SQLITE_OK) {
+        throw sqliteFailure(db, QString::fromUtf8(sql));
+    }
+}
+
+// Runs the statements of a script one after the other, so that a failure names its statement.
+void runStatements(sqlite3* db, const QByteArray& script) {
+    const char* tail = script.constData();
+    while (*tail != '\0') {
+        const char* start = tail;
+        sqlite3_stmt* statement = nullptr;
+        if (sqlite3_prepare_v2(db, start, -1, &statement, &tail) != SQLITE_OK) {
+            throw sqliteFailure(db, QString::fromUtf8(start).left(200));
+        }
+        if (statement == nullptr) {
+            continue;  // blanks or comments only
+        }
+        int rc = SQLITE_ROW;
+        while (rc == SQLITE_ROW) {
+            rc = sqlite3_step(statement);
+        }
+        sqlite3_finalize(statement);
+        if (rc != SQLITE_DONE) {
+            throw sqliteFailure(db, QString::fromUtf8(start, static_cast<int>(tail - start)));
+        }
+    }
+}
+
+QString resourceText(const QString& name) {
+    QFile file(name);
+    if (!file.open(QIODevice::ReadOnly)) {
+        throw SqlErrors::raised(
+            ErrNumber::Internal,
+            QStringLiteral("Die Datei %1 kann nicht gelesen werden.").arg(name));
+    }
+    return QString::fromUtf8(file.readAll());
+}
+
+}  // namespace
+
+Database::Database(QString path, QString connectionName, std::shared_ptr<IClock> clock)
+    : path_(std::move(path)),
+      connectionName_(std::move(connectionName)),
+      clock_(std::move(clock)) {}
+
+Database::~Database() {
+    if (QSqlDatabase::contains(connectionName_)) {
+        connectionOf(connectionName_).close();
+        QSqlDatabase::removeDatabase(connectionName_);
+    }
+}
+
+std::shared_ptr<Database> Database::open(const QString& path, std::shared_ptr<IClock> clock) {
+    if (!clock) {
+        clock = std::make_shared<SystemClock>();
+    }
+    // Owned from here on, so that the destructor removes the connection on any failure below.
+    std::shared_ptr<Database> database(new Database(path, nextConnectionName(), clock));
+    QSqlDatabase db =
+        QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), database->connectionName_);
+    if (!db.isValid()) {
+        throw SqlErrors::raised(ErrNumber::Database,
+                                QStringLiteral("Der Datenbanktreiber QSQLITE fehlt."));
+    }
+    db.setDatabaseName(path);
+    db.setConnectOptions(QStringLiteral("QSQLITE_BUSY_TIMEOUT=5000"));
+    if (!db.open()) {
+        throw SqlErrors::fromDriver(db.lastError(), path);
+    }
+    sqlite3* handle = sqliteHandle(db);
+    if (handle == nullptr) {
+        throw SqlErrors::raised(ErrNumber::Database,
+                                QStringLiteral("Die Verbindung gibt keinen SQLite-Zugriff."));
+    }
+    if (!path.isEmpty() && path != u":memory:") {
+        // The agent service writes while the window reads.
+        execute(handle, "PRAGMA journal_mode=WAL");
+        execute(handle, "PRAGMA synchronous=NORMAL");
+    }
+    if (registerServerFunctions(handle, database->clock_.get()) != SQLITE_OK) {
+        throw sqliteFailure(handle, QStringLiteral("getdate, datediff, len"));
+    }
+    return database;
+}
+
+bool Database::isEmpty() const {
+    QSqlQuery query(connectionOf(connectionName_));
+    const QString sql = QStringLiteral(
+        "SELECT count(*) FROM sqlite_master WHERE type = 'table' AND name NOT LIKE 'sqlite%'");
+    if (!query.exec(sql) || !query.next()) {
+        throw SqlErrors::fromDriver(query.lastError(), sql);
+    }
+    return query.value(0).toLongLong() == 0;
+}
+
+void Database::applySchema() {
+    runScript(resourceText(QStringLiteral(":/db/schema.sql")));
+}
+
+void Database::applyDemoData() {
+    runScript(resourceText(QStringLiteral(":/db/demo.sql")));
+}
+
+void Database::runScript(const QString& script) {
+    sqlite3* db = sqliteHandle(connectionOf(connectionName_));
+    if (db == nullptr) {
+        throw SqlErrors::noConnection();
+    }
+    // One transaction for the whole script: it applies completely or not at all. A script
+    // therefore holds no transaction statements of its own.
+    const bool ownTransaction = sqlite3_get_autocommit(db) != 0;
+    if (ownTransaction) {
+        execute(db, "BEGIN");
+    }
+    try {
+        runStatements(db, script.toUtf8());
+    } catch (...) {
+        if (ownTransaction) {
+            sqlite3_exec(db, "ROLLBACK", nullptr, nullptr, nullptr);
+        }
+        throw;
+    }
+    if (ownTransaction) {
+        execute(db, "COMMIT");
+    }
+}
+
+Services::Factory<CRecordset> Database::recordsetFactory() {
+    return [database = weak_from_this()]() -> std::unique_ptr<CRecordset> {
+        return std::make_unique<SqliteRecordset>(database);
+    };
+}

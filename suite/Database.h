@@ -1,0 +1,42 @@
+#pragma once
+
+#include <QString>
+#include <memory>
+
+#include "common/Clock.h"
+#include "common/Services.h"
+
+// The suite's database: one SQLite connection in WAL mode with a busy timeout, with the
+// server's functions (getdate, datediff, ...) registered on it. Record sets made by
+// recordsetFactory() all work on this connection.
+class Database : public std::enable_shared_from_this<Database> {
+  public:
+    // Opens the file, creating it when missing; ":memory:" gives a private in-memory
+    // database. getdate() answers from the clock. Throws RaisedError on failure.
+    static std::shared_ptr<Database> open(const QString& path, std::shared_ptr<IClock> clock);
+    ~Database();
+
+    Database(const Database&) = delete;
+    Database& operator=(const Database&) = delete;
+
+    const QString& connectionName() const { return connectionName_; }
+    const QString& path() const { return path_; }
+    IClock& clock() const { return *clock_; }
+
+    // True when the database holds no table yet.
+    bool isEmpty() const;
+    // Runs the embedded db/schema.sql, then (applyDemoData) db/demo.sql. Throws on failure.
+    void applySchema();
+    void applyDemoData();
+    // Runs a whole script of several statements (schema, demo data, test set-up).
+    void runScript(const QString& script);
+
+    Services::Factory<CRecordset> recordsetFactory();
+
+  private:
+    Database(QString path, QString connectionName, std::shared_ptr<IClock> clock);
+
+    QString path_;
+    QString connectionName_;
+    std::shared_ptr<IClock> clock_;
+};

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QString>
+#include <optional>
+
+// The server's SQL dialect, as the system writes its statements, read by SQLite.
+namespace SqlDialect {
+
+// Translates one statement for SQLite: `select [distinct] top n` becomes a LIMIT, the `dbo.`
+// prefix goes, the unit of datediff becomes a text ('day', 'week', ...), isnull becomes
+// ifnull and N'...' a plain literal. getdate(), datediff and len are functions of the
+// connection (SqlFunctions.h); bracketed names and `like` on numbers SQLite reads as they are.
+// Nothing inside a literal, a quoted name or a comment is touched. A single trailing `;` is
+// allowed; any statement after it throws RaisedError, so that nothing of the text runs.
+QString translate(const QString& serverSql);
+
+// A select that reads from exactly one table or view by name, with no join, union, grouping
+// or distinct, so that every row of its result is one row of that table.
+struct SingleSource {
+    QString name;         // as the database knows it, without brackets or quotes
+    qsizetype columnsAt;  // position just behind the select keyword, where columns can be added
+};
+std::optional<SingleSource> singleSource(const QString& sqliteSql);
+
+// The first keyword of the statement in lower case, empty when it starts otherwise.
+QString leadingKeyword(const QString& sql);
+
+}  // namespace SqlDialect

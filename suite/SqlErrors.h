@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QSqlError>
+#include <QString>
+
+#include "common/ErrObject.h"
+
+// Failures of the database and the record set, raised with the numbers of the suite's data
+// library and under its name as source.
+namespace SqlErrors {
+
+inline constexpr const char* source = "hdata.CRecordset";
+
+// Numbers of the data library beyond those of common/ErrObject.h.
+constexpr long Overflow = 6;
+constexpr long InvalidArgument = 3001;
+constexpr long NoCurrentRecord = 3021;
+constexpr long NotInCollection = 3265;
+constexpr long NotUpdatable = 3251;
+constexpr long ObjectClosed = 3704;
+constexpr long NoConnection = 3709;
+
+RaisedError raised(long number, const QString& description);
+// A failure of the driver: number is SQLite's error code, the description names the
+// statement.
+RaisedError fromDriver(const QSqlError& error, const QString& sql);
+
+RaisedError typeMismatch(const QString& field);
+RaisedError overflow(const QString& field);
+RaisedError unknownField(const QString& field);
+RaisedError noCurrentRecord();
+RaisedError notUpdatable(const QString& sql);
+RaisedError objectClosed();
+RaisedError noConnection();
+RaisedError invalidArgument(const QString& what, long value);
+RaisedError moreThanOneStatement(const QString& sql);
+
+}  // namespace SqlErrors

@@ -1,0 +1,43 @@
+#include "suite/SuiteServices.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+#include "suite/CoreStandIns.h"
+#include "suite/CoreTexte.h"
+#include "suite/CoreTools.h"
+#include "suite/StaffClient.h"
+#include "suite/TraceLog.h"
+
+Services makeSuiteServices(std::shared_ptr<SuiteConfig> config, std::shared_ptr<Database> db,
+                           std::shared_ptr<PlatformUi> ui, std::shared_ptr<IClock> clock) {
+    Services s;
+    s.clock = std::move(clock);
+    s.ui = std::move(ui);
+    if (db) {
+        s.newRecordset = db->recordsetFactory();
+    }
+    s.newCoreTools = [config] { return std::make_unique<SuiteCoreTools>(config); };
+    s.newCoreError = [] { return std::make_unique<SuiteCoreError>(); };
+    s.newCoreConvert = [] { return std::make_unique<SuiteCoreConvert>(); };
+    s.newCoreHelp = [] { return std::make_unique<SuiteCoreHelp>(); };
+    s.newLog = [config] { return std::make_unique<SuiteTraceLog>(config); };
+    s.newMitarbeiter = [] { return std::make_unique<SuiteMitarbeiter>(); };
+    s.newMandant = [] { return std::make_unique<SuiteMandant>(); };
+    s.coreGlobal = std::make_shared<SuiteCoreGlobal>(config);
+    s.coreTexte = std::make_shared<SuiteCoreTexte>();
+    return s;
+}
+
+std::shared_ptr<Database> openSuiteDatabase(const SuiteConfig& config,
+                                            std::shared_ptr<IClock> clock) {
+    if (config.databasePath != QLatin1String(":memory:")) {
+        QDir().mkpath(QFileInfo(config.databasePath).absolutePath());
+    }
+    auto db = Database::open(config.databasePath, std::move(clock));
+    if (db->isEmpty()) {
+        db->applySchema();
+        db->applyDemoData();
+    }
+    return db;
+}
