@@ -2,6 +2,8 @@
 
 #include <QDateTime>
 #include <QString>
+#include <QStringList>
+#include <QVariant>
 
 // The record object of the suite's data library: the one way to the database. A procedure
 // creates its own object, works and releases it; nothing stays open between calls.
@@ -43,6 +45,11 @@ class CRecordset {
     virtual QDateTime ReadDate(const QString& field) = 0;
     virtual long ReadLong(const QString& field) = 0;
     virtual QString ReadText(const QString& field) = 0;
+
+    // The columns of the open result set, in their order, and one field's raw value (null
+    // for NULL): what a list that shows any query needs.
+    virtual QStringList FieldNames() = 0;
+    virtual QVariant ReadValue(const QString& field) = 0;
 
     // Writes go into the buffer of the current record and read back before Update.
     virtual void WriteBool(const QString& field, bool value) = 0;

@@ -6,6 +6,8 @@
 
 #include "common/Clock.h"
 #include "common/CoreLibraries.h"
+#include "common/FileSystem.h"
+#include "common/Host.h"
 #include "common/PlatformUi.h"
 #include "common/Recordset.h"
 #include "common/StaffClient.h"
@@ -22,6 +24,8 @@ struct ProgramInfo {
 // which windows, which clock. The host or the test fills it; the logic only reads it.
 // A factory that is not set, or that gives nothing, means the library object cannot be
 // created: the creation guard turns that into an error report.
+class IWindowFactory;
+
 struct Services {
     template <class T>
     using Factory = std::function<std::unique_ptr<T>()>;
@@ -38,6 +42,15 @@ struct Services {
     Factory<LogClass> newLog;
     Factory<OIMitarbeiterClass> newMitarbeiter;
     Factory<OIMandantClass> newMandant;
+
+    std::shared_ptr<FileSystemObject> fileSystem;
+    std::shared_ptr<Shell> shell;
+    // Makes the windows: the in-memory kit or the Qt kit.
+    std::shared_ptr<IWindowFactory> windows;
+
+    // The host: its base object, and the classes this component registers with it.
+    Factory<ZPKyBasisAbruf> newBasisAbruf;
+    HostClassFactories hostClasses;
 
     // The two global objects of the core library, alive from first use to the end.
     std::shared_ptr<CoreGlobalClass> coreGlobal;

@@ -366,6 +366,19 @@ QString SqliteRecordset::ReadText(const QString& field) {
     return SqlValues::toText(value(field));
 }
 
+QStringList SqliteRecordset::FieldNames() {
+    requireOpen();
+    QStringList names;
+    for (const Column& c : columns_) {
+        names << c.name;
+    }
+    return names;
+}
+
+QVariant SqliteRecordset::ReadValue(const QString& field) {
+    return value(field);
+}
+
 void SqliteRecordset::write(const QString& field, const QVariant& value) {
     requireOpen();
     if (lockMode_ == 0) {

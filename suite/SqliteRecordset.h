@@ -40,6 +40,8 @@ class SqliteRecordset : public CRecordset {
     QDateTime ReadDate(const QString& field) override;
     long ReadLong(const QString& field) override;
     QString ReadText(const QString& field) override;
+    QStringList FieldNames() override;
+    QVariant ReadValue(const QString& field) override;
 
     // A date column (declared type holding DATE or TIME) takes a whole number written by
     // WriteLong or WriteText as a day number since 1899-12-30, and a date text in the stored

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <memory>
+
+#include "ui/Window.h"
+
+// The base of every window contract: owns the kit's window and gives typed access to its
+// controls. The contract of a window turns its controls' events into the window's events.
+class WindowContract {
+  public:
+    explicit WindowContract(std::unique_ptr<IWindow> window) : window_(std::move(window)) {}
+    virtual ~WindowContract() = default;
+    WindowContract(const WindowContract&) = delete;
+    WindowContract& operator=(const WindowContract&) = delete;
+
+    IWindow& window() { return *window_; }
+    const IWindow& window() const { return *window_; }
+    QString name() const { return window_->declaration().name; }
+
+  protected:
+    template <class T>
+    T& get(const QString& name, int index = -1) {
+        return window_->get<T>(name, index);
+    }
+
+  private:
+    std::unique_ptr<IWindow> window_;
+};
