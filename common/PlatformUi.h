@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <optional>
 
 // What the platform's user interface offers below every window: the message box, the suite's
 // error dialog, help and the mouse pointer. The window kits and the scenario runner implement
@@ -16,6 +17,13 @@ class PlatformUi {
                                  const QString& description) = 0;
     // A topic of a help file.
     virtual void ShowHelp(const QString& helpFile, const QString& topic) = 0;
+    // The file dialog: the chosen path, or nothing when the user cancelled. filter holds
+    // pairs "Description|*.ext|...".
+    virtual std::optional<QString> FileDialog(const QString& title, const QString& filter,
+                                              const QString& initialDirectory,
+                                              const QString& fileName) = 0;
+    // The directory dialog: the chosen directory, or nothing when the user cancelled.
+    virtual std::optional<QString> DirDialog(const QString& title, const QString& start) = 0;
     // 0 is the normal pointer, 11 the hourglass.
     virtual void SetMousePointer(int pointer) = 0;
 };

@@ -1,57 +1,174 @@
 // The stand-in of the host application: opens the suite's database (the embedded demo
-// database unless one is named) and tells what it holds.
+// database unless one is named) and shows the job agent's document, the list of automatic
+// jobs, in a main window with the host's menus.
+#include <QApplication>
 #include <QCommandLineParser>
-#include <QCoreApplication>
 #include <QTextStream>
 
+#include "app/Registration.h"
 #include "common/ErrorExit.h"
+#include "common/ModuleHelpers.h"
+#include "gui/QtUi.h"
+#include "gui/QtWindowFactory.h"
 #include "host/DemoSummary.h"
-#include "suite/ConsoleUi.h"
+#include "host/DesktopSession.h"
+#include "host/HostMainWindow.h"
 #include "suite/Database.h"
 #include "suite/SuiteConfig.h"
 #include "suite/SuiteServices.h"
+#include "ui/windows/frmPakete.h"
 
-int main(int argc, char* argv[]) {
-    QCoreApplication app(argc, argv);
-    QCoreApplication::setApplicationName(QStringLiteral("autojobverw"));
+namespace {
 
+struct Options {
+    QString configFile;
+    bool summary = false;
+    QString shot;
+};
+
+bool hasArgument(int argc, char* argv[], const char* name) {
+    for (int i = 1; i < argc; ++i) {
+        if (qstrcmp(argv[i], name) == 0) {
+            return true;
+        }
+    }
+    return false;
+}
+
+// Without a display the windows cannot open; the summary and the picture need none.
+bool prepareDisplay(int argc, char* argv[]) {
+    const bool windowless = hasArgument(argc, argv, "--summary") ||
+                            hasArgument(argc, argv, "--shot") ||
+                            hasArgument(argc, argv, "--help") || hasArgument(argc, argv, "-h");
+    if (!qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM") ||
+        !qEnvironmentVariableIsEmpty("DISPLAY") ||
+        !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY")) {
+        return true;
+    }
+    if (windowless) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+        return true;
+    }
+    QTextStream(stderr) << "Kein Bildschirm gefunden (DISPLAY ist nicht gesetzt). "
+                           "Mit --summary zeigt das Programm den Inhalt der Datenbank.\n";
+    return false;
+}
+
+// Reads the options into the configuration; the document data of the options win over the
+// configuration file's.
+Options parseOptions(const QApplication& app, SuiteConfig& config) {
     QCommandLineParser parser;
-    parser.setApplicationDescription(
-        QStringLiteral("Konfiguration automatischer Aufträge. Without --db the program opens "
-                       "the embedded demo database, creating it on first start."));
+    parser.setApplicationDescription(QStringLiteral(
+        "Konfiguration automatischer Aufträge. Without --db the program opens the embedded "
+        "demo database, creating it on first start."));
     parser.addHelpOption();
-    QCommandLineOption dbOption(QStringLiteral("db"),
+    const QCommandLineOption db(QStringLiteral("db"),
                                 QStringLiteral("The SQLite database to open (created with the "
                                                "schema and the demo data when new)."),
                                 QStringLiteral("PATH"));
-    QCommandLineOption configOption(
+    const QCommandLineOption configFile(
         QStringLiteral("config"),
         QStringLiteral("The configuration file (default: %1).").arg(SuiteConfig::defaultFile()),
         QStringLiteral("FILE"));
-    parser.addOption(dbOption);
-    parser.addOption(configOption);
+    const QCommandLineOption mandant(QStringLiteral("mandant"),
+                                     QStringLiteral("Id of the client the document is opened "
+                                                    "for (0: all)."),
+                                     QStringLiteral("ID"));
+    const QCommandLineOption mitarbeiter(
+        QStringLiteral("mitarbeiter"), QStringLiteral("Id of the staff member working."),
+        QStringLiteral("ID"));
+    const QCommandLineOption aktentyp(
+        QStringLiteral("aktentyp"),
+        QStringLiteral("Kind of file: 1 clients only, 2 offices only, 4 clients and offices."),
+        QStringLiteral("N"));
+    const QCommandLineOption installationsart(
+        QStringLiteral("installationsart"),
+        QStringLiteral("Kind of installation: 1 local, 0 server."), QStringLiteral("N"));
+    const QCommandLineOption summary(
+        QStringLiteral("summary"),
+        QStringLiteral("Print what the database holds instead of opening the window."));
+    const QCommandLineOption shot(
+        QStringLiteral("shot"),
+        QStringLiteral("Open the window off screen, save a picture of it and end."),
+        QStringLiteral("FILE"));
+    parser.addOptions(
+        {db, configFile, mandant, mitarbeiter, aktentyp, installationsart, summary, shot});
     parser.process(app);
 
-    QTextStream out(stdout);
-    QTextStream err(stderr);
-    const QString configFile =
-        parser.isSet(configOption) ? parser.value(configOption) : SuiteConfig::defaultFile();
-    auto config = std::make_shared<SuiteConfig>(SuiteConfig::load(configFile));
-    if (parser.isSet(dbOption)) {
-        config->databasePath = parser.value(dbOption);
+    Options o;
+    o.configFile = parser.isSet(configFile) ? parser.value(configFile) : SuiteConfig::defaultFile();
+    config = SuiteConfig::load(o.configFile);
+    if (parser.isSet(db)) {
+        config.databasePath = parser.value(db);
     }
+    auto number = [&](const QCommandLineOption& option, long& target) {
+        if (parser.isSet(option)) {
+            target = parser.value(option).toLong();
+        }
+    };
+    number(mandant, config.manId);
+    number(mitarbeiter, config.mitId);
+    number(aktentyp, config.aktenTyp);
+    number(installationsart, config.installationKind);
+    o.summary = parser.isSet(summary);
+    o.shot = parser.value(shot);
+    return o;
+}
+
+}  // namespace
+
+int main(int argc, char* argv[]) {
+    if (!prepareDisplay(argc, argv)) {
+        return 2;
+    }
+    QApplication app(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("autojobverw"));
+
+    auto config = std::make_shared<SuiteConfig>();
+    const Options options = parseOptions(app, *config);
 
     auto clock = std::make_shared<SystemClock>();
     std::shared_ptr<Database> db;
     try {
         db = openSuiteDatabase(*config, clock);
     } catch (const RaisedError& e) {
-        err << "Die Datenbank " << config->databasePath
-            << " kann nicht geöffnet werden: " << e.err().Description << "\n";
+        QTextStream(stderr) << "Die Datenbank " << config->databasePath
+                            << " kann nicht geöffnet werden: " << e.err().Description << "\n";
         return 1;
     }
-    ScopedServices scope(makeSuiteServices(config, db, std::make_shared<ConsoleUi>(), clock));
 
-    out << "Datenbank: " << db->path() << "\n" << demoSummary();
-    return 0;
+    Services s = makeSuiteServices(config, db, std::make_shared<QtUi>(), clock);
+    s.windows = std::make_shared<QtWindowFactory>(nullptr);
+    registerHostClasses(s);
+
+    QList<ToolDecl> menuTools;
+    for (const ToolDecl& t : frmPakete::declaration().tools) {
+        if (t.bar == QLatin1String("barMenu")) {
+            menuTools << t;
+        }
+    }
+
+    if (options.summary) {
+        ScopedServices scope(std::move(s));
+        QTextStream(stdout) << "Datenbank: " << db->path() << "\n" << demoSummary();
+        return 0;
+    }
+
+    HostMainWindow window(QString(), menuTools);
+    DesktopSession session(*config, window);
+    s.newBasisAbruf = [&session] { return session.makeBasis(); };
+    ScopedServices scope(std::move(s));
+
+    window.setWindowTitle(msGetTitel());
+    window.onTool = [&session](const QString& tool) { session.tool(tool); };
+    window.onClose = [&session] { session.end(); };
+    session.start();
+    window.show();
+    if (!options.shot.isEmpty()) {
+        QApplication::processEvents();
+        const bool saved = window.grab().save(options.shot);
+        session.end();
+        return saved ? 0 : 1;
+    }
+    return app.exec();
 }

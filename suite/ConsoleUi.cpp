@@ -49,3 +49,13 @@ void ConsoleUi::ShowHelp(const QString& helpFile, const QString& topic) {
 }
 
 void ConsoleUi::SetMousePointer(int /*pointer*/) {}
+
+// Without windows no file can be chosen: the dialogs answer as cancelled.
+std::optional<QString> ConsoleUi::FileDialog(const QString&, const QString&, const QString&,
+                                             const QString&) {
+    return std::nullopt;
+}
+
+std::optional<QString> ConsoleUi::DirDialog(const QString&, const QString&) {
+    return std::nullopt;
+}

@@ -16,6 +16,10 @@ class ConsoleUi : public PlatformUi {
     long MsgBox(const QString& text, long flags, const QString& title) override;
     void ShowErrorReport(long number, const QString& source, const QString& description) override;
     void ShowHelp(const QString& helpFile, const QString& topic) override;
+    std::optional<QString> FileDialog(const QString& title, const QString& filter,
+                                      const QString& initialDirectory,
+                                      const QString& fileName) override;
+    std::optional<QString> DirDialog(const QString& title, const QString& start) override;
     void SetMousePointer(int pointer) override;
 
     // The answer given to a box of these flags.

@@ -78,7 +78,8 @@ class IBrowser : public virtual IControl {
     // A tool's state changed.
     virtual void ToolStatus(ITool* tool) = 0;
 
-    // The columns of the last load, by name; nullptr for an unknown name.
+    // The columns of the last load, by name. A column asked for before a load brings it keeps
+    // its flags for that load.
     virtual QStringList SpaltenNamen() const = 0;
     virtual BrowserColumn* Spalte(const QString& name) = 0;
 

@@ -24,7 +24,7 @@ class IGrid : public virtual IControl {
     // Appends a row; the text holds the cells separated by tabs.
     virtual void AddItem(const QString& tabSeparated) = 0;
     virtual void RemoveItem(int row) = 0;
-    // Empties the grid: no rows but the fixed ones keep their text.
+    // Empties the text and data of every cell, fixed ones included; Rows and Cols stay.
     virtual void Clear() = 0;
     // Sets the heading from a format string "<Belegart|<Auswählen" (alignment marks dropped).
     virtual void setFormatString(const QString& format) = 0;

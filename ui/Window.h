@@ -27,6 +27,7 @@ struct ControlDecl {
     bool enabled = true;
     QStringList tabCaptions;  // tab control: the pages' captions
     int interval = 0;         // timer: milliseconds
+    bool editable = false;    // grid: the user may edit cells (the grid's design-time Editable)
 };
 
 // A tool of a bar, in the order of its band.

@@ -2,20 +2,23 @@
 
 #include <memory>
 
+#include "common/Host.h"
 #include "ui/Window.h"
 
 // The base of every window contract: owns the kit's window and gives typed access to its
 // controls. The contract of a window turns its controls' events into the window's events.
-class WindowContract {
+class WindowContract : public HostObject {
   public:
     explicit WindowContract(std::unique_ptr<IWindow> window) : window_(std::move(window)) {}
-    virtual ~WindowContract() = default;
+    ~WindowContract() override = default;
     WindowContract(const WindowContract&) = delete;
     WindowContract& operator=(const WindowContract&) = delete;
 
     IWindow& window() { return *window_; }
     const IWindow& window() const { return *window_; }
     QString name() const { return window_->declaration().name; }
+    // The classic runtime's type name of a form: the form's name.
+    QString TypeName() const override { return name(); }
 
   protected:
     template <class T>

@@ -40,6 +40,13 @@ struct RecordingUi : PlatformUi {
     void ShowHelp(const QString& file, const QString& topic) override {
         helpTopics << file + QStringLiteral("#") + topic;
     }
+    std::optional<QString> FileDialog(const QString&, const QString&, const QString&,
+                                      const QString&) override {
+        return std::nullopt;
+    }
+    std::optional<QString> DirDialog(const QString&, const QString&) override {
+        return std::nullopt;
+    }
     void SetMousePointer(int p) override { pointer = p; }
 };
 

@@ -43,6 +43,13 @@ struct RecordingUi : PlatformUi {
     void ShowHelp(const QString& helpFile, const QString& topic) override {
         help.append(helpFile + "|" + topic);
     }
+    std::optional<QString> FileDialog(const QString&, const QString&, const QString&,
+                                      const QString&) override {
+        return std::nullopt;
+    }
+    std::optional<QString> DirDialog(const QString&, const QString&) override {
+        return std::nullopt;
+    }
     void SetMousePointer(int) override {}
 };
 

@@ -1,0 +1,9 @@
+#include "app/PendingMessages.h"
+
+#include <QCoreApplication>
+
+void letPendingMessagesRun() {
+    if (QCoreApplication::instance()) {
+        QCoreApplication::processEvents();
+    }
+}

@@ -1,0 +1,7 @@
+#include "app/Required.h"
+
+#include "common/ErrObject.h"
+
+void raiseObjektErforderlich() {
+    throw RaisedError(ErrNumber::ObjectRequired, QStringLiteral("Objekt erforderlich"));
+}

@@ -1,0 +1,189 @@
+#pragma once
+
+#include <QString>
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <vector>
+
+#include "app/ClassTrace.h"
+#include "app/GuardedCallback.h"
+#include "common/Host.h"
+#include "common/MessageBox.h"
+
+class cProperties;
+class frmPakete;
+class IBrowser;
+class IComboBox;
+class ITool;
+class WindowContract;
+
+// One job selected in the list: its id, its name and the text of its job type as the list
+// shows it.
+struct Auftragsart {
+    long lId = 0;
+    QString sName;
+    QString sArt;
+};
+
+// The controller: owns every window, reacts to their events, reads and writes the database
+// and raises progress texts to the application object. Its member functions are defined in
+// the folder of the subsystem they belong to; this header is grouped the same way.
+class cAdminJob {
+  public:
+    // Class_Initialize and Class_Terminate.
+    cAdminJob();
+    ~cAdminJob();
+    cAdminJob(const cAdminJob&) = delete;
+    cAdminJob& operator=(const cAdminJob&) = delete;
+
+    static inline const QString kKlasse = QStringLiteral("cAdminJob");
+
+    // ---- Life cycle (app/AdminJobLifecycle.cpp) -----------------------------------------
+
+    // Raised while the list loads: a hint, and the text that stands when it is done.
+    std::function<void(const QString& sHinweis, const QString& sEndeHinweis)> evFortschritt;
+
+    void fSetFrmPakete(std::shared_ptr<frmPakete> oForm);
+    void fSetPakete(std::shared_ptr<IBrowser> oBrowser);
+    void fSetProperties(std::shared_ptr<cProperties> oProperties);
+    void fSetBasis(std::weak_ptr<ZPKyBasisAbruf> oBasis);
+    bool gbInit();
+    void fStart(bool& bRestart);
+    void fShowHide(bool& bShow);
+    void fSetFocus();
+    void fDestructor();
+
+    // The list's commands by tool name (joblist/AdminJobRouting.cpp).
+    void fToolClick(const QString& sToolName);
+
+  private:
+    friend class AdminJobTestAccess;
+
+    // ---- Life cycle, the list window's wiring (app/AdminJobLifecycle.cpp) ----------------
+
+    // Cuts the list window's events to this controller, unloads it and lets go of it.
+    void mFrmPaketeEntladen();
+    void mFrmPaketeVerbinden();
+
+    // ---- Shared services (app/AdminJobShared.cpp) ---------------------------------------
+
+    long mlMsgBox(const QString& sText, long lFlags, const QString& sTitel = {},
+                  const QString& sHelpDatei = {}, long lKontext = 0);
+    QString msMitarbeiterName(long& lMitId);
+    void mRaiseFortschritt(const QString& sHinweis, const QString& sEndeHinweis);
+    // The list's browser; raises "object required" when there is none.
+    IBrowser& mPakete();
+
+    // ---- Job list (joblist/AdminJobList.cpp, joblist/AdminJobListCommands.cpp) ----------
+
+    bool mInitApplication();
+    void mBrowserSpaltenInitialisieren();
+    // The key columns and the flags of all columns, on the columns the browser knows: it
+    // learns them at its first load, so the start marks them again after loading.
+    void mSpaltenKennzeichnen();
+    void mBrowserRefresh(bool bFlag);
+    bool mbBrowserSelectItem(long lJobId);
+    void mJobIdErmitteln(long& lId, QString& sName);
+    QString msAuftragsartAktuell();
+    QString msAuswahlBedingung();
+    void mChangeAktivJob();
+    void mLoescheJob();
+    void mPaketBearbeiten(int iAktion);
+
+    void moPakete_ToolClick(const QString& sTool);
+    void moPakete_SelectionChanged();
+    void moPakete_Open();
+    void moPakete_KeyDown(int iKeyCode, int iShift);
+    void moFrmPakete_evFrmPaketeCommandButtonClicked();
+    void mofrmPakete_evAuftragKopieren();
+    void moLogDaten_evInitCBOAuftragsart(IComboBox& cboComboBox, long lDatenart, bool bAlle);
+
+    // ---- Commands of the properties window (joblist/AdminJobRouting.cpp) ----------------
+
+    void mEigenschaftenTool(const QString& sTool);
+
+    // ---- Menu and tool state (joblist/AdminJobMenuState.cpp) ----------------------------
+
+    void mMenuStatus();
+    void mEinfuegenStatus();
+    void mMenuBarStatus(const QString& sTool, const QString& sBand);
+    void mToolBarStatus(ITool* oTool);
+    // Set one tool, and send the state on only when it changed.
+    void mToolsSetzen(const QString& sTool, bool bEnabled);
+    void mMenuSetzen(const QString& sTool, bool bEnabled);
+    void mBandSetzen(const QString& sBand, const QString& sTool, bool bEnabled);
+
+    // ---- Starting a job now (joblist/AdminJobStart.cpp) ---------------------------------
+
+    void mJobStartenExe(long& lJobId);
+    long mlScheduleIdErm(long lJobId);
+
+    // ---- Properties window (joblist/AdminJobPropertiesWindow.cpp) -----------------------
+
+    void mShowFRMPakete(long lJobId, const QString& sName);
+    void mPaketNav(const QString& sTool);
+    void mEigenschaftenSchliessen(bool bAbbrechen);
+
+    // ---- Job definitions (jobs/AdminJobJobTypes.cpp, jobs/AdminJobEditor.cpp) -----------
+
+    QString msGetAuftragsart(long lDatenArt);
+    void mInitCBOAuftragsart(IComboBox& cboComboBox, std::uint8_t bytDatenart, bool bMitAlle);
+    bool mbArchivJob();
+    bool mbKestoDirekt();
+    bool mbNivora();
+    bool mbFirmaKanzlei();
+    QString msMandNrErm(long lId);
+    // The text of the selected job whose history is on show, "" when none matches.
+    QString msAuftragsartDerListe();
+
+    void mAuftragEinfuegen();
+    void mPaketeCMDClick(int Index);
+
+    // ---- Run history and log files (history/) ------------------------------------------
+
+    void mInitLogFileLinks();
+    void mShowVerlauf(long lJobId, const QString& sJobName);
+
+    // ---- Log data viewer (logdata/) ----------------------------------------------------
+
+    void mLogdatenShowCls(long lLogArt, bool bLoeschen, long lJobId);
+
+    // ---- Members shared by the subsystems ----------------------------------------------
+
+    ClassTrace moTrace{kKlasse};
+    MessageBoxOwner moMeldungen{kKlasse};
+    std::weak_ptr<ZPKyBasisAbruf> moBasis;
+    std::shared_ptr<cProperties> moProperties;
+
+    long mlJobId = 0;
+    QString msJobName;
+    long mlZeitplanId = 0;
+    bool mbInitEigenschaften = false;
+    long mlJobIdListe = 0;
+    bool mbBackupGefragt = false;
+    long mlJobIdKopiert = 0;
+    std::vector<Auftragsart> maAuftragsarten;
+    long mlAuftragMitarbeiter = 0;
+    QString msJobNamen;
+    long mlFraImportHoehe = 0;
+    long mlJobZeile = 0;
+    std::uint8_t mbytAuftragMandKanz = 0;
+    QString msAuftragMandNr;
+    long mlVorgabe = 0;
+    long mlGrau = 0;
+    bool mbMitNivora = false;
+
+    // ---- Windows: each empty until it exists --------------------------------------------
+
+    std::shared_ptr<frmPakete> moFrmPakete;
+    std::shared_ptr<IBrowser> moPakete;
+    // The windows of the job editor and the schedule dialogs, held by their common base
+    // until their own contracts take the place.
+    std::shared_ptr<WindowContract> mofrmEigenschaften;
+    std::shared_ptr<WindowContract> mofrmzeitIntervall;
+    std::shared_ptr<WindowContract> mofrmZeitplanEigenschaften;
+
+    // Cuts every event the windows still hold to this controller when it goes away.
+    LifeToken mLeben;
+};

@@ -1,0 +1,24 @@
+#include "gui/QtLayouts.h"
+
+#include <QHash>
+
+#include "gui/LayoutFrmPakete.h"
+
+namespace {
+
+QHash<QString, QtLayout>& registered() {
+    static QHash<QString, QtLayout> layouts{
+        {QStringLiteral("frmpakete"), &layoutFrmPakete},
+    };
+    return layouts;
+}
+
+}  // namespace
+
+void registerQtLayout(const QString& windowName, QtLayout layout) {
+    registered().insert(windowName.toLower(), std::move(layout));
+}
+
+QtLayout qtLayoutFor(const QString& windowName) {
+    return registered().value(windowName.toLower());
+}

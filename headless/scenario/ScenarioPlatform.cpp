@@ -1,0 +1,58 @@
+#include "headless/scenario/ScenarioPlatform.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+long ScenarioPlatform::MsgBox(const QString& text, long flags, const QString& title) {
+    return prompter_.answerMessageBox(text, flags, title);
+}
+
+void ScenarioPlatform::ShowErrorReport(long number, const QString& source,
+                                       const QString& description) {
+    QString detail = QStringLiteral("%1: %2").arg(number).arg(description);
+    detail.replace(QStringLiteral("\r\n"), QStringLiteral(" "));
+    events_.add(ScenarioEvents::Kind::Error, errorProcedure(source), detail);
+}
+
+void ScenarioPlatform::ShowHelp(const QString& helpFile, const QString& topic) {
+    events_.add(ScenarioEvents::Kind::Help, topic, helpFile);
+}
+
+std::optional<QString> ScenarioPlatform::FileDialog(const QString& title, const QString&,
+                                                    const QString&, const QString&) {
+    return prompter_.answerFileDialog(title);
+}
+
+std::optional<QString> ScenarioPlatform::DirDialog(const QString& title, const QString&) {
+    return prompter_.answerDirDialog(title);
+}
+
+bool ScenarioShell::Start(const QString& program, const QStringList& arguments, int) {
+    events_.add(ScenarioEvents::Kind::Shell, (QStringList{program} + arguments).join(u' '));
+    return true;
+}
+
+bool ScenarioShell::Open(const QString& path) {
+    events_.add(ScenarioEvents::Kind::Shell, QStringLiteral("explorer ") + path);
+    return true;
+}
+
+bool LocalFileSystem::FileExists(const QString& path) {
+    return QFileInfo(path).isFile();
+}
+
+bool LocalFileSystem::FolderExists(const QString& path) {
+    return QFileInfo(path).isDir();
+}
+
+QStringList LocalFileSystem::Files(const QString& folder) {
+    return QDir(folder).entryList(QDir::Files | QDir::Hidden, QDir::Name);
+}
+
+qint64 LocalFileSystem::FileSize(const QString& path) {
+    return QFileInfo(path).size();
+}
+
+QDateTime LocalFileSystem::DateLastModified(const QString& path) {
+    return QFileInfo(path).lastModified();
+}

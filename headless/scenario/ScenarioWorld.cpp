@@ -1,0 +1,113 @@
+#include "headless/scenario/ScenarioWorld.h"
+
+#include <QDir>
+
+#include "common/ErrObject.h"
+#include "common/ErrorReport.h"
+#include "headless/scenario/ScenarioError.h"
+#include "headless/scenario/ScenarioSystem.h"
+#include "suite/SuiteServices.h"
+
+namespace {
+
+const QDateTime kStart(QDate(2026, 11, 22), QTime(10, 0));
+
+QString sqlText(const QString& text) {
+    return QLatin1Char('\'') + QString(text).replace(u'\'', QStringLiteral("''")) +
+           QLatin1Char('\'');
+}
+
+// The error state of the classic runtime lives in the process; each world starts clean.
+void clearErrorState() {
+    Err().Clear();
+    Core_gFehlerZurueck();
+    Err().Clear();
+}
+
+}  // namespace
+
+ScenarioWorld::ScenarioWorld(ScenarioPrompter& prompter,
+                             std::shared_ptr<HeadlessWindowFactory> windows)
+    : dir_(QDir::tempPath() + QStringLiteral("/autojobverw-scenario-XXXXXX")),
+      clock_(std::make_shared<FixedClock>(kStart)),
+      config_(std::make_shared<SuiteConfig>()),
+      platform_(std::make_shared<ScenarioPlatform>(prompter, events_)),
+      host_(std::make_shared<HostState>()),
+      frame_(std::make_unique<ScenarioFrame>(*host_)),
+      dokument_(std::make_shared<ScenarioDokumentDaten>()),
+      windows_(std::move(windows)) {
+    if (!dir_.isValid()) {
+        scenarioFail(QStringLiteral("no temporary directory: %1").arg(dir_.errorString()));
+    }
+    clearErrorState();
+    config_->installationKind = 0;
+    config_->paths.insert(41, root() + QStringLiteral("/bin/"));
+    config_->paths.insert(83, root() + QStringLiteral("/data"));
+    config_->paths.insert(6, root() + QStringLiteral("/suite/"));
+    config_->databasePath = QStringLiteral(":memory:");
+
+    try {
+        db_ = Database::open(config_->databasePath, clock_);
+        db_->applySchema();
+    } catch (const RaisedError& e) {
+        scenarioFail(QStringLiteral("the database cannot be set up: %1").arg(e.err().Description));
+    }
+
+    Services s = makeSuiteServices(config_, db_, platform_, clock_);
+    s.fileSystem = std::make_shared<LocalFileSystem>();
+    s.shell = std::make_shared<ScenarioShell>(events_);
+    s.windows = windows_;
+    s.newBasisAbruf = [state = host_, frame = frame_.get()]() -> std::unique_ptr<ZPKyBasisAbruf> {
+        return std::make_unique<ScenarioBasis>(state, *frame);
+    };
+    registerSystemClasses(s);
+    scope_ = std::make_unique<ScopedServices>(std::move(s));
+
+    setText(1001, QStringLiteral("Suite"));
+    setText(1024, QStringLiteral("Daten"));
+    setText(1025, QStringLiteral("Programme"));
+    setText(1228, QStringLiteral("JobAgent"));
+    setText(1236, QStringLiteral("Kesto"));
+    setStaff(1, QStringLiteral("Anna Admin"));
+}
+
+ScenarioWorld::~ScenarioWorld() {
+    scope_.reset();
+    clearErrorState();
+}
+
+QString ScenarioWorld::root() const {
+    return dir_.path();
+}
+
+QString ScenarioWorld::expand(QString text) const {
+    return text.replace(QStringLiteral("$ROOT"), root());
+}
+
+void ScenarioWorld::setText(long id, const QString& text) {
+    runSql(QStringLiteral("INSERT OR REPLACE INTO tSuiteText (TextId, Text) VALUES (%1, %2)")
+               .arg(id)
+               .arg(sqlText(text)));
+}
+
+void ScenarioWorld::setStaff(long id, const QString& name) {
+    runSql(QStringLiteral("INSERT OR REPLACE INTO tMitarbeiter (MitId, Name) VALUES (%1, %2)")
+               .arg(id)
+               .arg(sqlText(name)));
+}
+
+void ScenarioWorld::setClient(long id, long number, bool office) {
+    runSql(QStringLiteral("INSERT OR REPLACE INTO tMandant (ManId, ManNr, Kanzlei) "
+                          "VALUES (%1, %2, %3)")
+               .arg(id)
+               .arg(number)
+               .arg(office ? 1 : 0));
+}
+
+void ScenarioWorld::runSql(const QString& statement) {
+    try {
+        db_->runScript(statement);
+    } catch (const RaisedError& e) {
+        scenarioFail(QStringLiteral("the statement failed: %1").arg(e.err().Description));
+    }
+}

@@ -1,0 +1,96 @@
+#include "host/HostMainWindow.h"
+
+#include <QAction>
+#include <QCloseEvent>
+#include <QLabel>
+#include <QMenuBar>
+#include <QStatusBar>
+
+namespace {
+
+// The log data items stand in the menus always on; the component never changes them.
+bool alwaysOn(const QString& tool) { return tool.startsWith(QLatin1String("Logdaten ")); }
+
+QString key(const QString& band, const QString& tool) { return band + QLatin1Char('/') + tool; }
+
+}  // namespace
+
+HostMainWindow::HostMainWindow(const QString& title, const QList<ToolDecl>& menuTools) {
+    setWindowTitle(title);
+    resize(1000, 640);
+
+    QMenu* file = menuBar()->addMenu(QStringLiteral("&Datei"));
+    QAction* quit = file->addAction(QStringLiteral("&Beenden"));
+    quit->setShortcut(QKeySequence::Quit);
+    connect(quit, &QAction::triggered, this, &QWidget::close);
+
+    for (const QString& band : {QStringLiteral("Bearbeiten"), QStringLiteral("Ansicht")}) {
+        addBandMenu(band, menuTools);
+    }
+
+    QMenu* help = menuBar()->addMenu(QStringLiteral("&Hilfe"));
+    QAction* helpItem = help->addAction(QStringLiteral("Hilfe zu den automatischen Aufträgen"));
+    helpItem->setShortcut(QKeySequence::HelpContents);
+    connect(helpItem, &QAction::triggered, this, [this] {
+        if (onTool) {
+            onTool(QStringLiteral("mnuHilfeDokument"));
+        }
+    });
+
+    hint_ = new QLabel(this);
+    endHint_ = new QLabel(this);
+    statusBar()->addWidget(hint_, 1);
+    statusBar()->addPermanentWidget(endHint_);
+}
+
+void HostMainWindow::addBandMenu(const QString& band, const QList<ToolDecl>& tools) {
+    QMenu* menu = menuBar()->addMenu(QLatin1Char('&') + band);
+    for (const ToolDecl& t : tools) {
+        if (t.band != band) {
+            continue;
+        }
+        if (t.isSeparator()) {
+            menu->addSeparator();
+            continue;
+        }
+        QAction* action = menu->addAction(t.caption);
+        action->setToolTip(t.hint);
+        action->setEnabled(alwaysOn(t.name));
+        const QString tool = t.name;
+        connect(action, &QAction::triggered, this, [this, tool] {
+            if (onTool) {
+                onTool(tool);
+            }
+        });
+        actions_.insert(key(band, t.name), action);
+    }
+}
+
+void HostMainWindow::setList(QWidget* list) {
+    if (list) {
+        setCentralWidget(list);
+    }
+}
+
+void HostMainWindow::setToolEnabled(const QString& band, const QString& tool, bool enabled) {
+    if (QAction* a = actions_.value(key(band, tool)); a && !alwaysOn(tool)) {
+        a->setEnabled(enabled);
+    }
+}
+
+bool HostMainWindow::isToolEnabled(const QString& band, const QString& tool) const {
+    const QAction* a = actions_.value(key(band, tool));
+    return a && a->isEnabled();
+}
+
+void HostMainWindow::showProgress(const QString& hint, const QString& endHint) {
+    hint_->setText(hint);
+    endHint_->setText(endHint);
+}
+
+void HostMainWindow::closeEvent(QCloseEvent* event) {
+    if (onClose) {
+        onClose();
+    }
+    event->accept();
+}

@@ -1,0 +1,110 @@
+#include "QtTestKit.h"
+
+#include <gtest/gtest.h>
+#include <QTest>
+
+namespace qt_test {
+
+QString describe(const ControlEvent& e) {
+    static const char* const names[] = {
+        "Click",     "DblClick",  "Change",           "KeyDown", "GotFocus", "LostFocus",
+        "AfterEdit", "ToolClick", "SelectionChanged", "Open",    "TabClick", "Timer"};
+    QString s = QString::fromLatin1(names[static_cast<int>(e.type)]) + QLatin1Char(' ') + e.control;
+    if (e.index >= 0) {
+        s += QStringLiteral("(%1)").arg(e.index);
+    }
+    switch (e.type) {
+        case EventType::KeyDown:
+            s += QStringLiteral(" %1/%2").arg(e.keyCode).arg(e.shift);
+            break;
+        case EventType::Click:
+        case EventType::DblClick:
+        case EventType::AfterEdit:
+            if (e.row || e.col) {
+                s += QStringLiteral(" %1,%2").arg(e.row).arg(e.col);
+            }
+            break;
+        case EventType::ToolClick:
+            s += QLatin1Char(' ') + e.tool;
+            break;
+        case EventType::TabClick:
+        case EventType::Open:
+            s += QStringLiteral(" %1").arg(e.row);
+            break;
+        default:
+            break;
+    }
+    return s;
+}
+
+long FakeRecordset::OpenQuery(const QString& sql, long) {
+    if (log_) {
+        *log_ << sql;
+    }
+    table_ = {};
+    for (const auto& [key, table] : tables_) {
+        if (sql.contains(key, Qt::CaseInsensitive)) {
+            table_ = table;
+            break;
+        }
+    }
+    row_ = 0;
+    return table_.rows.size();
+}
+
+bool FakeRecordset::Move(long direction) {
+    if (direction == MoveNext) {
+        ++row_;
+    } else if (direction == MoveFirst) {
+        row_ = 0;
+    }
+    return row_ >= 0 && row_ < table_.rows.size();
+}
+
+QVariant FakeRecordset::ReadValue(const QString& field) {
+    const int c = table_.columns.indexOf(field);
+    if (c < 0 || row_ < 0 || row_ >= table_.rows.size()) {
+        return {};
+    }
+    return table_.rows[row_].value(c);
+}
+
+RecordedWindow::RecordedWindow(const WindowDecl& d, ModalDriver* driver) : factory_(driver) {
+    window_ = factory_.create(d);
+    qt_ = dynamic_cast<QtWindow*>(window_.get());
+    WindowEvents events;
+    events.onControl = [this](const ControlEvent& e) { events_ << describe(e); };
+    events.onQueryUnload = [this](bool& cancel) {
+        windowEvents << QStringLiteral("QueryUnload");
+        cancel = cancelUnload;
+    };
+    events.onUnload = [this] { windowEvents << QStringLiteral("Unload"); };
+    events.onKeyDown = [this](int code, int shift) {
+        windowEvents << QStringLiteral("KeyDown %1/%2").arg(code).arg(shift);
+    };
+    window_->setEvents(std::move(events));
+}
+
+RecordedWindow::~RecordedWindow() = default;
+
+QtControlView& RecordedWindow::view(const char* name, int index) {
+    QtControlView* v = qt_->view(QString::fromUtf8(name), index);
+    if (!v) {
+        ADD_FAILURE() << "no control " << name;
+        throw std::runtime_error("no control");
+    }
+    return *v;
+}
+
+QStringList RecordedWindow::take() {
+    QStringList taken = events_;
+    events_.clear();
+    return taken;
+}
+
+void RecordedWindow::show() {
+    qt_->Show(false);
+    EXPECT_TRUE(QTest::qWaitForWindowExposed(qt_->widget()));
+}
+
+}  // namespace qt_test

@@ -1,0 +1,110 @@
+#pragma once
+
+#include <QApplication>
+#include <QList>
+#include <QPair>
+#include <QString>
+#include <QStringList>
+#include <QVariant>
+#include <memory>
+#include <ostream>
+
+#include "common/ErrObject.h"
+#include "common/Recordset.h"
+#include "common/Services.h"
+#include "gui/QtWindow.h"
+#include "gui/QtWindowFactory.h"
+#include "headless/HeadlessKit.h"
+
+inline void PrintTo(const QString& text, std::ostream* os) {
+    *os << '"' << text.toStdString() << '"';
+}
+inline void PrintTo(const QStringList& list, std::ostream* os) {
+    *os << '[' << list.join(QStringLiteral(" | ")).toStdString() << ']';
+}
+
+namespace qt_test {
+
+inline ControlDecl decl(const char* name, ControlKind kind, int index = -1,
+                        const char* caption = "", const char* hint = "") {
+    ControlDecl d;
+    d.name = QString::fromUtf8(name);
+    d.kind = kind;
+    d.index = index;
+    d.caption = QString::fromUtf8(caption);
+    d.hint = QString::fromUtf8(hint);
+    return d;
+}
+
+// "Click cmd(0)", "KeyDown txt 13/0", "AfterEdit grd 1,1", "ToolClick bar new",
+// "TabClick tab 0", "Open ctl 2", "Change txt".
+QString describe(const ControlEvent& e);
+
+// A result set: its columns and rows.
+struct FakeTable {
+    QStringList columns;
+    QList<QVariantList> rows;
+};
+
+// A read-only record set over canned tables: the first table whose key the statement holds
+// answers it. Keeps every statement it was given.
+class FakeRecordset : public CRecordset {
+  public:
+    FakeRecordset(QList<QPair<QString, FakeTable>> tables, QStringList* log)
+        : tables_(std::move(tables)), log_(log) {}
+
+    void Connect() override {}
+    void Disconnect() override {}
+    long OpenQuery(const QString& sql, long) override;
+    void Close() override { table_ = {}; }
+    void AddNew() override {}
+    void Update(long, bool) override {}
+    bool Move(long direction) override;
+    long Execute(const QString&) override { return 0; }
+    bool ReadBool(const QString& f) override { return ReadValue(f).toBool(); }
+    QDateTime ReadDate(const QString& f) override { return ReadValue(f).toDateTime(); }
+    long ReadLong(const QString& f) override { return ReadValue(f).toLongLong(); }
+    QString ReadText(const QString& f) override { return ReadValue(f).toString(); }
+    QStringList FieldNames() override { return table_.columns; }
+    QVariant ReadValue(const QString& field) override;
+    void WriteBool(const QString&, bool) override {}
+    void WriteDate(const QString&, const QDateTime&) override {}
+    void WriteLong(const QString&, long) override {}
+    void WriteText(const QString&, const QString&) override {}
+
+  private:
+    QList<QPair<QString, FakeTable>> tables_;
+    QStringList* log_;
+    FakeTable table_;
+    int row_ = 0;
+};
+
+// A window of the Qt kit with every event it raises kept as text.
+class RecordedWindow {
+  public:
+    explicit RecordedWindow(const WindowDecl& d, ModalDriver* driver = nullptr);
+    ~RecordedWindow();
+
+    QtWindow& window() { return *qt_; }
+    template <class T>
+    T& get(const char* name, int index = -1) {
+        return qt_->get<T>(QString::fromUtf8(name), index);
+    }
+    // The Qt side of a control.
+    QtControlView& view(const char* name, int index = -1);
+    // The events since the last call, oldest first.
+    QStringList take();
+    // Shows the window (offscreen) and lays it out.
+    void show();
+
+    QStringList windowEvents;  // "QueryUnload", "Unload", "KeyDown 112/0"
+    bool cancelUnload = false;
+
+  private:
+    QtWindowFactory factory_;
+    std::unique_ptr<IWindow> window_;
+    QtWindow* qt_ = nullptr;
+    QStringList events_;
+};
+
+}  // namespace qt_test

@@ -1,0 +1,112 @@
+#include <gtest/gtest.h>
+#include <QHeaderView>
+#include <QTableWidget>
+#include <QTest>
+
+#include "QtTestKit.h"
+#include "gui/QtGrid.h"
+
+using namespace qt_test;
+
+namespace {
+
+WindowDecl gridWindow(bool editable) {
+    WindowDecl d;
+    d.name = QStringLiteral("frmGitter");
+    d.width = 500;
+    d.height = 300;
+    ControlDecl grid = decl("grdBeleg", ControlKind::Grid);
+    grid.editable = editable;
+    d.controls << grid;
+    d.controls << decl("txtTextBox", ControlKind::TextBox, 0, "Name");
+    return d;
+}
+
+class QtGridTest : public ::testing::Test {
+  protected:
+    void SetUp() override {
+        grid().setFormatString(QStringLiteral("<Belegart|^Auswählen|>Id"));
+        grid().setColBoolean(1, true);
+        grid().AddItem(QStringLiteral("Rechnung\t\t7"));
+        grid().AddItem(QStringLiteral("Gutschrift\t\t8"));
+        w.take();
+    }
+    HeadlessGrid& grid() { return w.window().get<HeadlessGrid>(QStringLiteral("grdBeleg")); }
+    QTableWidget* table() { return qobject_cast<QTableWidget*>(w.view("grdBeleg").widget()); }
+
+    RecordedWindow w{gridWindow(true)};
+};
+
+TEST_F(QtGridTest, OneFixedRowIsTheHeadingAndDataRowsFollow) {
+    ASSERT_NE(table(), nullptr);
+    EXPECT_EQ(table()->columnCount(), 3);
+    EXPECT_EQ(table()->rowCount(), 2);
+    EXPECT_EQ(table()->horizontalHeaderItem(0)->text(), "Belegart");
+    EXPECT_EQ(table()->item(1, 0)->text(), "Gutschrift");
+    EXPECT_EQ(table()->item(0, 1)->checkState(), Qt::Unchecked);
+    EXPECT_TRUE(table()->item(0, 1)->flags() & Qt::ItemIsUserCheckable);
+    EXPECT_EQ(table()->item(0, 2)->textAlignment() & Qt::AlignHorizontal_Mask, Qt::AlignRight);
+}
+
+TEST_F(QtGridTest, CellFormatsWidthsAndHiddenColumnsShow) {
+    grid().setTextMatrix(2, 0, QStringLiteral("Storno"));
+    grid().setCellUnderline(1, 0, true);
+    grid().setCellForeColor(1, 0, 0x0000FF);  // red as 0xBBGGRR
+    grid().setCellChecked(2, 1, true);
+    grid().setColWidth(0, 1500);
+    grid().setColHidden(2, true);
+    EXPECT_EQ(table()->item(1, 0)->text(), "Storno");
+    EXPECT_TRUE(table()->item(0, 0)->font().underline());
+    EXPECT_EQ(table()->item(0, 0)->foreground().color(), QColor(255, 0, 0));
+    EXPECT_EQ(table()->item(1, 1)->checkState(), Qt::Checked);
+    EXPECT_EQ(table()->columnWidth(0), 100);
+    EXPECT_TRUE(table()->isColumnHidden(2));
+    grid().Clear();
+    EXPECT_EQ(table()->item(0, 0)->text(), "");
+    EXPECT_TRUE(w.take().isEmpty());
+}
+
+TEST_F(QtGridTest, ToggleOfABooleanCellRaisesAfterEdit) {
+    grid().userGridToggle(2, 1);
+    EXPECT_TRUE(grid().CellChecked(2, 1));
+    EXPECT_EQ(table()->item(1, 1)->checkState(), Qt::Checked);
+    EXPECT_EQ(w.take(), (QStringList{"GotFocus grdBeleg", "AfterEdit grdBeleg 2,1"}));
+
+    // The user's tick in the widget takes the same way.
+    table()->item(0, 1)->setCheckState(Qt::Checked);
+    EXPECT_TRUE(grid().CellChecked(1, 1));
+    EXPECT_EQ(grid().Row(), 1);
+    EXPECT_EQ(w.take(), QStringList{"AfterEdit grdBeleg 1,1"});
+    EXPECT_THROW(grid().userGridToggle(1, 0), RaisedError);
+}
+
+TEST_F(QtGridTest, ClicksMoveTheCurrentCellAndRaiseClickOrDblClick) {
+    w.show();
+    grid().userGridClick(2, 0, false);
+    EXPECT_EQ(grid().Row(), 2);
+    EXPECT_EQ(table()->currentRow(), 1);
+    grid().userGridClick(1, 2, true);
+    grid().userGridClick(0, 1, false);  // the heading
+    EXPECT_EQ(w.take(), (QStringList{"GotFocus grdBeleg", "Click grdBeleg 2,0",
+                                     "DblClick grdBeleg 1,2", "Click grdBeleg 0,1"}));
+
+    const QRect cell = table()->visualItemRect(table()->item(1, 0));
+    // The real mouse: a click, and the second click of a double click.
+    QTest::mouseClick(table()->viewport(), Qt::LeftButton, {}, cell.center());
+    EXPECT_EQ(w.take(), QStringList{"Click grdBeleg 2,0"});
+    QTest::mouseDClick(table()->viewport(), Qt::LeftButton, {}, cell.center());
+    EXPECT_TRUE(w.take().contains("DblClick grdBeleg 2,0"));
+}
+
+TEST(QtGridReadOnly, WithoutEditableTheChecksCannotBeToggled) {
+    RecordedWindow w(gridWindow(false));
+    auto& grid = w.window().get<HeadlessGrid>(QStringLiteral("grdBeleg"));
+    grid.setFormatString(QStringLiteral("Name|Aktiv"));
+    grid.setColBoolean(1, true);
+    grid.AddItem(QStringLiteral("A\t"));
+    auto* table = qobject_cast<QTableWidget*>(w.view("grdBeleg").widget());
+    EXPECT_FALSE(table->item(0, 1)->flags() & Qt::ItemIsUserCheckable);
+    EXPECT_THROW(grid.userGridToggle(1, 1), RaisedError);
+}
+
+}  // namespace
