@@ -7,6 +7,7 @@
 #include <QSet>
 #include <QTextEdit>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "gui/QtWindow.h"
 
@@ -83,6 +84,12 @@ bool closesDialog(const HeadlessControl& c) {
     return closing.contains(caption.trimmed().toLower());
 }
 
+// Time boxes and date pickers are as wide as their value; other fields take the row.
+bool keepsItsWidth(const Item& item) {
+    return item.control->kind() == ControlKind::TimeBox ||
+           item.control->kind() == ControlKind::DatePicker;
+}
+
 bool hasOwnCaption(const Item& item) {
     const QLabel* label = item.view->captionLabel();
     return label && !label->text().isEmpty();
@@ -149,6 +156,11 @@ class AutoLayout {
         grid->setColumnStretch(1, 1);
         int row = 0;
         bool stretches = false;
+        // Check boxes and options line up with the fields when the area has captions.
+        const bool captions = std::any_of(items.begin(), items.end(), [](const Item& i) {
+            return roleOf(i) == Role::Field && hasOwnCaption(i);
+        });
+        const int checkColumn = captions ? 1 : 0;
         int fieldRow = -1;  // the row of the last field whose right cell is free
         QList<QWidget*> captionCell;
         QList<QWidget*> leftButtons;
@@ -200,7 +212,8 @@ class AutoLayout {
                     }
                     break;
                 case Role::Check:
-                    if (nextRole == Role::Field) {
+                    if (nextRole == Role::Field &&
+                        item.control->kind() == ControlKind::OptionButton) {
                         captionCell << w;  // the option that chooses the field after it
                         break;
                     }
@@ -216,7 +229,7 @@ class AutoLayout {
                         }
                         if (j - i >= 3) {
                             line->addStretch(1);
-                            grid->addLayout(line, row, 0, 1, 3);
+                            grid->addLayout(line, row, checkColumn, 1, 3 - checkColumn);
                             fieldRow = -1;
                             ++row;
                             i = j - 1;
@@ -224,7 +237,9 @@ class AutoLayout {
                         }
                         delete line;
                     }
-                    fullRow(w, false);
+                    grid->addWidget(w, row, checkColumn, 1, 3 - checkColumn);
+                    fieldRow = -1;
+                    ++row;
                     break;
                 case Role::Field: {
                     auto* cell = new QHBoxLayout;
@@ -236,14 +251,19 @@ class AutoLayout {
                     if (QLabel* caption = item.view->captionLabel()) {
                         cell->addWidget(caption);
                     }
-                    cell->addStretch(1);
-                    grid->addLayout(cell, row, 0);
-                    grid->addWidget(w, row, 1);
+                    grid->addLayout(cell, row, 0, Qt::AlignLeft | Qt::AlignVCenter);
+                    if (keepsItsWidth(item)) {
+                        grid->addWidget(w, row, 1, Qt::AlignLeft | Qt::AlignVCenter);
+                    } else {
+                        grid->addWidget(w, row, 1);
+                    }
                     fieldRow = row;
                     ++row;
                     break;
                 }
                 case Role::Chooser:
+                    w->setMaximumWidth(std::max(
+                        32, w->fontMetrics().horizontalAdvance(QStringLiteral("...")) + 20));
                     if (fieldRow >= 0) {
                         grid->addWidget(w, fieldRow, 2);
                         fieldRow = -1;

@@ -6,6 +6,13 @@
 
 #include "gui/QtToolBar.h"
 
+namespace {
+
+// Room beside the widest value of a column, so that the columns do not touch.
+constexpr int kColumnPadding = 24;
+
+}  // namespace
+
 // --- model ---
 
 BrowserModel::BrowserModel(const HeadlessBrowser& browser, QObject* parent)
@@ -150,6 +157,9 @@ void QtBrowser::dataChanged() {
     }
     if (columns != before) {
         view_->resizeColumnsToContents();
+        for (int c = 0; c < columns.size(); ++c) {
+            view_->setColumnWidth(c, view_->columnWidth(c) + kColumnPadding);
+        }
     }
     showSelection();
     setUpdating(was);

@@ -6,7 +6,7 @@
 namespace {
 
 // Keys whose codes do not follow from letters, digits or function keys.
-constexpr std::array<std::pair<int, int>, 22> kSpecial{{
+constexpr std::array<std::pair<int, int>, 22> kOtherKeys{{
     {Qt::Key_Backspace, 8}, {Qt::Key_Tab, 9},      {Qt::Key_Return, 13}, {Qt::Key_Enter, 13},
     {Qt::Key_Shift, 16},    {Qt::Key_Control, 17}, {Qt::Key_Alt, 18},    {Qt::Key_Pause, 19},
     {Qt::Key_Escape, 27},   {Qt::Key_Space, 32},   {Qt::Key_PageUp, 33}, {Qt::Key_PageDown, 34},
@@ -26,7 +26,7 @@ int codeOf(int qtKey) {
     if (qtKey >= Qt::Key_F1 && qtKey <= Qt::Key_F24) {
         return 112 + (qtKey - Qt::Key_F1);
     }
-    for (const auto& [key, code] : kSpecial) {
+    for (const auto& [key, code] : kOtherKeys) {
         if (key == qtKey) {
             return code;
         }
@@ -55,7 +55,7 @@ Qt::Key qtKeyOf(int code) {
     if (code >= 112 && code < 112 + 24) {
         return static_cast<Qt::Key>(Qt::Key_F1 + (code - 112));
     }
-    for (const auto& [key, c] : kSpecial) {
+    for (const auto& [key, c] : kOtherKeys) {
         if (c == code) {
             return static_cast<Qt::Key>(key);
         }

@@ -84,6 +84,12 @@ QtSelection::QtSelection(const ControlDecl& decl, HeadlessWindow& window, QWidge
     attach(combo_, combo_, new QLabel(parent));
 }
 
+QtSelection::~QtSelection() {
+    if (auto* combo = static_cast<SelectionCombo*>(combo_.data())) {
+        combo->beforePopup = nullptr;  // the widget may outlive the control for a moment
+    }
+}
+
 void QtSelection::load() {
     entries_ = readSelectionEntries(staff_, Mode());
     loaded_ = true;

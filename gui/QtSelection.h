@@ -25,6 +25,7 @@ QList<SelectionEntry> readSelectionEntries(bool staff, long mode);
 class QtSelection : public QtControl<HeadlessSelection> {
   public:
     QtSelection(const ControlDecl& decl, HeadlessWindow& window, QWidget* parent);
+    ~QtSelection() override;
     void userSelect(long id) override;
     bool staff() const { return staff_; }
 

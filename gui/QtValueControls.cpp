@@ -21,7 +21,7 @@ QtDatePicker::QtDatePicker(const ControlDecl& decl, HeadlessWindow& window, QWid
     edit_->setMinimumDate(QDate(100, 1, 1));
     edit_->setDate(clockNow().date());
     row->addWidget(has_);
-    row->addWidget(edit_, 1);
+    row->addWidget(edit_);
     QObject::connect(has_, &QCheckBox::clicked, guard(), [this] {
         if (!updating()) {
             WidgetCall::run([&] { HeadlessDatePicker::userDate(widgetValue()); });

@@ -1,5 +1,7 @@
 #include "headless/HeadlessWindow.h"
 
+#include <QRegularExpression>
+
 #include <algorithm>
 
 #include "common/ErrObject.h"
@@ -292,7 +294,12 @@ QString HeadlessWindow::containerReason(const ControlDecl& decl, int depth) cons
     if (decl.container.isEmpty()) {
         return {};
     }
-    HeadlessControl* container = headlessControl(decl.container, -1);
+    // A container is named "fraFrame" or, in a control array, "fraFrame(1)".
+    static const QRegularExpression indexed(QStringLiteral("^(.*)\\((\\d+)\\)$"));
+    const QRegularExpressionMatch m = indexed.match(decl.container.trimmed());
+    HeadlessControl* container = m.hasMatch()
+                                     ? headlessControl(m.captured(1), m.captured(2).toInt())
+                                     : headlessControl(decl.container, -1);
     if (!container) {
         return {};
     }

@@ -20,7 +20,9 @@ DesktopSession::DesktopSession(const SuiteConfig& config, HostMainWindow& window
     };
 }
 
-DesktopSession::~DesktopSession() { end(); }
+DesktopSession::~DesktopSession() {
+    end();
+}
 
 std::unique_ptr<ZPKyBasisAbruf> DesktopSession::makeBasis() {
     auto basis = std::make_unique<DesktopBasis>(frame_);

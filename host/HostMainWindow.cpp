@@ -9,9 +9,13 @@
 namespace {
 
 // The log data items stand in the menus always on; the component never changes them.
-bool alwaysOn(const QString& tool) { return tool.startsWith(QLatin1String("Logdaten ")); }
+bool alwaysOn(const QString& tool) {
+    return tool.startsWith(QLatin1String("Logdaten "));
+}
 
-QString key(const QString& band, const QString& tool) { return band + QLatin1Char('/') + tool; }
+QString key(const QString& band, const QString& tool) {
+    return band + QLatin1Char('/') + tool;
+}
 
 }  // namespace
 

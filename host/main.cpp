@@ -74,9 +74,9 @@ Options parseOptions(const QApplication& app, SuiteConfig& config) {
                                      QStringLiteral("Id of the client the document is opened "
                                                     "for (0: all)."),
                                      QStringLiteral("ID"));
-    const QCommandLineOption mitarbeiter(
-        QStringLiteral("mitarbeiter"), QStringLiteral("Id of the staff member working."),
-        QStringLiteral("ID"));
+    const QCommandLineOption mitarbeiter(QStringLiteral("mitarbeiter"),
+                                         QStringLiteral("Id of the staff member working."),
+                                         QStringLiteral("ID"));
     const QCommandLineOption aktentyp(
         QStringLiteral("aktentyp"),
         QStringLiteral("Kind of file: 1 clients only, 2 offices only, 4 clients and offices."),

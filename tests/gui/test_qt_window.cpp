@@ -227,6 +227,27 @@ TEST(QtWindowLife, WindowGoingAwayInItsOwnEventLeavesNoDanglingWidget) {
     EXPECT_TRUE(root.isNull());
 }
 
+TEST(QtWindowLife, FailureInAnEventComesOutOfTheUserActionNotOutOfQt) {
+    RecordedWindow w(editorWindow());
+    w.show();
+    WindowEvents events;
+    events.onControl = [](const ControlEvent&) {
+        throw RaisedError(ErrNumber::Internal, QStringLiteral("abgebrochen"),
+                          QStringLiteral("test"));
+    };
+    events.onQueryUnload = [](bool&) {
+        throw RaisedError(ErrNumber::Internal, QStringLiteral("abgebrochen"),
+                          QStringLiteral("test"));
+    };
+    w.window().setEvents(events);
+    auto& ok = w.window().get<HeadlessButton>(QStringLiteral("cmdCommandButton"), 0);
+    EXPECT_THROW(ok.userClick(), RaisedError);
+    // The real mouse has no one to hand the failure to: the event loop goes on.
+    EXPECT_NO_THROW(QTest::mouseClick(
+        qobject_cast<QPushButton*>(w.view("cmdCommandButton", 0).widget()), Qt::LeftButton));
+    EXPECT_THROW(w.window().userClose(), RaisedError);
+}
+
 TEST(QtWindowFactoryTest, WidgetOfGivesTheWindowsWidgetOnlyForQtWindows) {
     QtWindowFactory qt;
     std::unique_ptr<IWindow> window = qt.create(editorWindow());

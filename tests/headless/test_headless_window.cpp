@@ -290,3 +290,29 @@ TEST(HeadlessWindowTest, CaptionPointerAndContractsWork) {
 }
 
 }  // namespace
+
+TEST(HeadlessWindowTest, ControlsInAFrameOfAControlArrayFollowThatFrame) {
+    WindowDecl d;
+    d.name = QStringLiteral("frmRahmen");
+    for (int i = 0; i < 2; ++i) {
+        ControlDecl frame;
+        frame.name = QStringLiteral("fraFrame");
+        frame.index = i;
+        frame.kind = ControlKind::Frame;
+        d.controls << frame;
+    }
+    ControlDecl text;
+    text.name = QStringLiteral("txtTextBox");
+    text.index = 0;
+    text.kind = ControlKind::TextBox;
+    text.container = QStringLiteral("fraFrame(1)");
+    d.controls << text;
+
+    Recorded w{d};
+    w.window->Show(false);
+    auto& txt = w.get<ITextBox>("txtTextBox", 0);
+    w.get<IFrame>("fraFrame", 0).setVisible(false);
+    EXPECT_EQ(w.window->unreachableReason(txt), "") << "another frame of the array";
+    w.get<IFrame>("fraFrame", 1).setVisible(false);
+    EXPECT_TRUE(w.window->unreachableReason(txt).contains(QStringLiteral("fraFrame")));
+}
