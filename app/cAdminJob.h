@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QDateTime>
 #include <QString>
 #include <cstdint>
 #include <functional>
@@ -10,6 +11,8 @@
 #include "app/GuardedCallback.h"
 #include "common/Host.h"
 #include "common/MessageBox.h"
+#include "jobs/JobRecord.h"
+#include "schedule/cSchedule.h"
 
 class cProperties;
 class frmPakete;
@@ -140,6 +143,26 @@ class cAdminJob {
     void mAuftragEinfuegen();
     void mPaketeCMDClick(int Index);
 
+    // ---- Job persistence (jobs/AdminJobPersistence.cpp) ---------------------------------
+
+    friend class JobPersistenceTestAccess;
+
+    // Reads the job rec.lJobId into rec; false, with the defaults of a new job, when there is
+    // no such row.
+    bool mAuftragLesen(JobRecord& rec);
+    // Inserts the job when rec.lJobId has no row, else updates it; gives back the id and the
+    // two captions.
+    void mAuftragSpeichern(JobRecord& rec);
+    QString msGetJobName(long lJobId);
+    // Stamps the job mlJobId as changed now by the current user.
+    void mUpdateLetztAenderung();
+    QString msGetLetzteAenderungText(const QDateTime& dtDatum, long lMitId);
+    // Copies the schedules of the copied job to the job lJobIdNeu.
+    void mZeitplanEinfuegen(long lJobIdNeu);
+
+    std::uint8_t mbytDatenArt = 0;
+    std::uint8_t mbytMandKanz = 0;
+
     // ---- Run history and log files (history/) ------------------------------------------
 
     void mInitLogFileLinks();
@@ -148,6 +171,31 @@ class cAdminJob {
     // ---- Log data viewer (logdata/) ----------------------------------------------------
 
     void mLogdatenShowCls(long lLogArt, bool bLoeschen, long lJobId);
+
+    // ---- Schedules (schedule/AdminJobSchedule.cpp, schedule/AdminJobScheduleSentence.cpp) --
+
+    friend class ScheduleTestAccess;
+
+    // "93000" -> "09:30:00"; empty stays empty.
+    QString msGetTimeString(const QString& sZeit);
+    // Fills moSchedule from the row with that key; the name is not read. No row, no change.
+    void mSetzeScheduleObjektAusDB(std::int32_t lScheduleId);
+    // The defaults of a new schedule; the name counts the rows of the schedule grid, fixed
+    // header row included.
+    void mSetDefaultIntervallZeitplan(long lZeilenGrdZeitplan);
+    void mInitZeitplan();
+    // For a schedule that turns to repeating with no recurrence on show: the fixed text goes
+    // into the dialog's lblLabel(0), and moSchedule gets the defaults.
+    void mShowZeitplanIntervall(class ILabel& lblLabel0, long lZeilenGrdZeitplan);
+
+    // The schedule as one German sentence, and its pieces.
+    QString msGetIntervallString();
+    QString msGetWochentageString(std::int32_t lWochentage);
+    QString msStelleWochentag(std::int32_t lRelativ);
+    QString msWochentagRelativ(std::int32_t lWochentag);
+
+    // The schedule being looked at or edited; empty between the dialogs.
+    std::unique_ptr<cSchedule> moSchedule;
 
     // ---- Members shared by the subsystems ----------------------------------------------
 

@@ -2,6 +2,7 @@
 
 #include <QHash>
 
+#include "gui/LayoutFrmEigenschaften.h"
 #include "gui/LayoutFrmPakete.h"
 
 namespace {
@@ -9,6 +10,7 @@ namespace {
 QHash<QString, QtLayout>& registered() {
     static QHash<QString, QtLayout> layouts{
         {QStringLiteral("frmpakete"), &layoutFrmPakete},
+        {QStringLiteral("frmeigenschaften"), &layoutFrmEigenschaften},
     };
     return layouts;
 }

@@ -1,0 +1,178 @@
+#include "gui/LayoutFrmEigenschaften.h"
+
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+
+#include "gui/QtWindow.h"
+
+namespace {
+
+constexpr int kFieldColumn = 1;
+constexpr int kChooserColumn = 2;
+
+class EditorLayout {
+  public:
+    explicit EditorLayout(QtWindow& window) : window_(window) {}
+
+    void run() {
+        auto* column = new QVBoxLayout(window_.widget());
+        column->setContentsMargins(0, 0, 0, 0);
+        column->setSpacing(6);
+        if (QWidget* bar = widget("tbrMain")) {
+            column->addWidget(bar);
+        }
+        auto* body = new QVBoxLayout;
+        body->setContentsMargins(8, 0, 8, 8);
+        column->addLayout(body, 1);
+        if (QtControlView* tabs = window_.view(QStringLiteral("tabControl"))) {
+            body->addWidget(tabs->widget(), 1);
+            general(tabs->area(0));
+            schedules(tabs->area(1));
+        }
+        auto* buttons = new QHBoxLayout;
+        buttons->addStretch(1);
+        for (int index : {0, 1, 7}) {
+            addTo(buttons, widget("cmdCommandButton", index));
+        }
+        body->addLayout(buttons);
+    }
+
+  private:
+    QWidget* widget(const char* name, int index = -1) const {
+        QtControlView* v = window_.view(QString::fromUtf8(name), index);
+        return v ? v->widget() : nullptr;
+    }
+    QLabel* caption(const char* name, int index = -1) const {
+        QtControlView* v = window_.view(QString::fromUtf8(name), index);
+        return v ? v->captionLabel() : nullptr;
+    }
+    static void addTo(QBoxLayout* layout, QWidget* w, int stretch = 0) {
+        if (w) {
+            layout->addWidget(w, stretch);
+        }
+    }
+    static void put(QGridLayout* grid, QWidget* w, int row, int col, int span = 1,
+                    Qt::Alignment align = {}) {
+        if (w) {
+            grid->addWidget(w, row, col, 1, span, align);
+        }
+    }
+
+    void general(QWidget* page) {
+        if (!page) {
+            return;
+        }
+        auto* column = new QVBoxLayout(page);
+        auto* head = new QGridLayout;
+        head->setColumnStretch(1, 2);
+        head->setColumnStretch(2, 1);
+        put(head, caption("txtTextBox", 0), 0, 0);
+        put(head, widget("txtTextBox", 0), 0, 1, 2);
+        put(head, caption("cboComboBox", 0), 1, 0);
+        put(head, widget("cboComboBox", 0), 1, 1);
+        put(head, widget("chkCheckBox", 0), 1, 2);
+        put(head, widget("cboComboBox", 2), 2, 1);
+        put(head, widget("ctlMandant"), 2, 2);
+        put(head, caption("txtTextBox", 2), 3, 0, 1, Qt::AlignTop);
+        if (QWidget* description = widget("txtTextBox", 2)) {
+            description->setMaximumHeight(description->fontMetrics().lineSpacing() * 4 + 12);
+            head->addWidget(description, 3, 1, 1, 2);
+        }
+        put(head, widget("lblLabel", 1), 4, 0);
+        put(head, widget("lblLabel", 2), 4, 1);
+        put(head, widget("lblLetzteAenderung"), 4, 2, 1, Qt::AlignRight);
+        column->addLayout(head);
+
+        // The panels of the job types, in the order the types stack them.
+        bool stretches = false;
+        for (const char* panel : {"fraNivora", "FraTxtImport", "fraImport", "fraBuchungen",
+                                  "fraScandokumente", "picBelegarten"}) {
+            QtControlView* v = window_.view(QString::fromUtf8(panel));
+            if (!v || !v->widget()) {
+                continue;
+            }
+            const bool grows = fill(*v, QString::fromUtf8(panel));
+            column->addWidget(v->widget(), grows ? 1 : 0);
+            stretches = stretches || grows;
+        }
+        if (!stretches) {
+            column->addStretch(1);
+        }
+        addTo(column, widget("lblLabel", 0));
+    }
+
+    // Lays out the controls declared in the panel: fields with their captions, a choice
+    // button beside the field before it, check boxes and notes in rows, a grid taking the
+    // rest. True when the panel holds something that grows.
+    bool fill(QtControlView& panel, const QString& name) {
+        QWidget* area = panel.area(-1);
+        if (!area) {
+            return false;
+        }
+        auto* grid = new QGridLayout(area);
+        grid->setColumnStretch(kFieldColumn, 1);
+        int row = 0;
+        int lastField = -1;
+        bool grows = false;
+        for (HeadlessControl* c : window_.controls()) {
+            if (c->decl().container != name) {
+                continue;
+            }
+            auto* v = dynamic_cast<QtControlView*>(c);
+            QWidget* w = v ? v->widget() : nullptr;
+            if (!w) {
+                continue;
+            }
+            switch (c->kind()) {
+                case ControlKind::TextBox:
+                case ControlKind::ComboBox:
+                case ControlKind::Selection:
+                    put(grid, v->captionLabel(), row, 0);
+                    grid->addWidget(w, row, kFieldColumn);
+                    lastField = row++;
+                    break;
+                case ControlKind::Button:
+                    w->setMaximumWidth(
+                        std::max(32, w->fontMetrics().horizontalAdvance(QStringLiteral("...")) + 20));
+                    grid->addWidget(w, lastField >= 0 ? lastField : row++, kChooserColumn);
+                    lastField = -1;
+                    break;
+                case ControlKind::Grid:
+                    grid->addWidget(w, row, 0, 1, 3);
+                    grid->setRowStretch(row++, 1);
+                    grows = true;
+                    break;
+                case ControlKind::CheckBox:
+                    grid->addWidget(w, row++, kFieldColumn, 1, 2);
+                    break;
+                default:
+                    grid->addWidget(w, row++, 0, 1, 3);
+                    break;
+            }
+        }
+        return grows;
+    }
+
+    void schedules(QWidget* page) {
+        if (!page) {
+            return;
+        }
+        auto* row = new QHBoxLayout(page);
+        addTo(row, widget("grdZeitplan"), 1);
+        auto* buttons = new QVBoxLayout;
+        for (int index : {3, 4, 5, 9}) {
+            addTo(buttons, widget("cmdCommandButton", index));
+        }
+        buttons->addStretch(1);
+        row->addLayout(buttons);
+    }
+
+    QtWindow& window_;
+};
+
+}  // namespace
+
+void layoutFrmEigenschaften(QtWindow& window) {
+    EditorLayout(window).run();
+}

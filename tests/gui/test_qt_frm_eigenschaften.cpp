@@ -1,0 +1,152 @@
+#include <gtest/gtest.h>
+#include <QAbstractButton>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QTabWidget>
+#include <QTest>
+
+#include "QtTestKit.h"
+#include "ui/windows/frmEigenschaften.h"
+
+using namespace qt_test;
+
+namespace {
+
+// The editor on Qt widgets with the events it raises kept as text.
+struct QtEditor {
+    QtEditor() {
+        auto w = factory.create(frmEigenschaften::declaration());
+        qt = dynamic_cast<QtWindow*>(w.get());
+        form = std::make_unique<frmEigenschaften>(std::move(w));
+        form->evFrmEigenschaftenCommandButtonClicked = [this](int i) {
+            events << QStringLiteral("CommandButtonClicked %1").arg(i);
+        };
+        form->evOptDateiAuswaehlen = [this](int i) {
+            events << QStringLiteral("OptDateiAuswaehlen %1").arg(i);
+        };
+        form->evToolClick = [this](const QString& t) { events << QStringLiteral("ToolClick ") + t; };
+        form->evGeaendert = [this] { events << QStringLiteral("Geaendert"); };
+        form->evImportfileChanged = [this] { events << QStringLiteral("ImportfileChanged"); };
+        form->evMitFremdformat = [this] { events << QStringLiteral("MitFremdformat"); };
+        form->window().Show(false);
+        EXPECT_TRUE(QTest::qWaitForWindowExposed(qt->widget()));
+    }
+    QWidget* widget(const char* name, int index = -1) {
+        QtControlView* v = qt->view(QString::fromUtf8(name), index);
+        return v ? v->widget() : nullptr;
+    }
+    // Shows the panels of one job type the way the editor's logic does.
+    void showPanels(const QStringList& shown) {
+        for (const char* panel : {"fraImport", "fraBuchungen", "fraScandokumente", "fraNivora",
+                                  "FraTxtImport", "picBelegarten"}) {
+            form->window()
+                .control(QString::fromUtf8(panel))
+                ->setVisible(shown.contains(QString::fromUtf8(panel)));
+        }
+        QApplication::processEvents();
+    }
+
+    QtWindowFactory factory;
+    QtWindow* qt = nullptr;
+    std::unique_ptr<frmEigenschaften> form;
+    QStringList events;
+};
+
+QString shownText(QWidget* w) {
+    if (auto* button = qobject_cast<QAbstractButton*>(w)) {
+        return button->text();
+    }
+    if (auto* box = qobject_cast<QGroupBox*>(w)) {
+        return box->title();
+    }
+    if (auto* label = qobject_cast<QLabel*>(w)) {
+        return label->text();
+    }
+    return {};
+}
+
+TEST(QtFrmEigenschaften, EveryControlHasItsWidgetCaptionAndToolTip) {
+    QtEditor e;
+    EXPECT_EQ(e.qt->widget()->windowTitle(), "Paket bearbeiten");
+    for (const ControlDecl& d : frmEigenschaften::declaration().controls) {
+        SCOPED_TRACE(QStringLiteral("%1(%2)").arg(d.name).arg(d.index).toStdString());
+        QtControlView* view = e.qt->view(d.name, d.index);
+        ASSERT_NE(view, nullptr);
+        const bool hasWidget = d.kind != ControlKind::Timer && d.kind != ControlKind::FileDialog &&
+                               d.kind != ControlKind::DirDialog;
+        if (!hasWidget) {
+            continue;
+        }
+        ASSERT_NE(view->widget(), nullptr);
+        EXPECT_EQ(view->widget()->toolTip(), d.hint);
+        if (d.caption.isEmpty()) {
+            continue;
+        }
+        if (QLabel* caption = view->captionLabel()) {
+            EXPECT_EQ(caption->text(), d.caption);
+        } else {
+            EXPECT_EQ(shownText(view->widget()), d.caption);
+        }
+    }
+    auto* tabs = qobject_cast<QTabWidget*>(e.widget("tabControl"));
+    ASSERT_NE(tabs, nullptr);
+    EXPECT_EQ(tabs->tabText(0), "Allgemein");
+    EXPECT_EQ(tabs->tabText(1), "Zeitpläne");
+    EXPECT_FALSE(tabs->isTabEnabled(1));
+}
+
+TEST(QtFrmEigenschaften, ClicksAndTypingRaiseTheWindowsEvents) {
+    QtEditor e;
+    e.showPanels({QStringLiteral("fraImport"), QStringLiteral("FraTxtImport"),
+                  QStringLiteral("fraBuchungen")});
+    QTest::mouseClick(e.widget("cmdCommandButton", 7), Qt::LeftButton);
+    QTest::mouseClick(e.widget("cmdCommandButton", 8), Qt::LeftButton);
+    QTest::mouseClick(e.widget("cmdOptFileName", 0), Qt::LeftButton);
+    e.qt->get<HeadlessControl>(QStringLiteral("tbrMain"))
+        .userTool(QStringLiteral("barMain"), QStringLiteral("save"));
+    QWidget* check = e.widget("chkFremdFormat");
+    QTest::mouseClick(check, Qt::LeftButton, {}, QPoint(8, check->height() / 2));
+    EXPECT_EQ(e.events, (QStringList{"CommandButtonClicked 7", "CommandButtonClicked 8",
+                                     "OptDateiAuswaehlen 0", "ToolClick save", "MitFremdformat"}));
+    e.events.clear();
+
+    auto* name = qobject_cast<QLineEdit*>(e.qt->view(QStringLiteral("txtTextBox"), 0)->keyTarget());
+    ASSERT_NE(name, nullptr);
+    e.form->txtTextBox(0).SetFocus();
+    QTest::keyClicks(name, QStringLiteral("a"));
+    EXPECT_TRUE(e.events.contains("Geaendert"));
+    EXPECT_TRUE(e.events.contains("ImportfileChanged"));
+    e.events.clear();
+    e.form->txtTextBox(3).setText(QStringLiteral("D:\\Daten"));
+    EXPECT_EQ(e.events, QStringList{"ImportfileChanged"});
+    e.events.clear();
+
+    e.qt->widget()->close();
+    EXPECT_EQ(e.events, (QStringList{"CommandButtonClicked 1", "CommandButtonClicked 1"}));
+}
+
+// Pictures of the window for a look by eye: the general page with the panels of a few job
+// types, and the schedules.
+TEST(QtFrmEigenschaften, Pictures) {
+    QtEditor e;
+    e.form->cboComboBox(0).AddItem(4, QStringLiteral("Buchungen"));
+    e.form->cboComboBox(0).setKey(4);
+    e.form->lblLabel(0).setCaption(QStringLiteral("Aktuelles Rechnerdatum: 22.11.2026 10:00:00"));
+    e.form->lblLetzteAenderung().setCaption(QStringLiteral("Letzte Änderung: Keine Angaben"));
+    e.showPanels({QStringLiteral("fraImport"), QStringLiteral("fraBuchungen")});
+    e.qt->shot(QStringLiteral("/tmp/frmEigenschaften_buchungen.png"));
+    e.showPanels({QStringLiteral("fraImport"), QStringLiteral("FraTxtImport")});
+    e.qt->shot(QStringLiteral("/tmp/frmEigenschaften_textimport.png"));
+    e.showPanels({QStringLiteral("fraImport"), QStringLiteral("picBelegarten")});
+    e.qt->shot(QStringLiteral("/tmp/frmEigenschaften_belegarten.png"));
+    e.showPanels({QStringLiteral("fraImport"), QStringLiteral("fraScandokumente"),
+                  QStringLiteral("fraNivora")});
+    e.qt->shot(QStringLiteral("/tmp/frmEigenschaften_scan_nivora.png"));
+    e.form->tabControl().setTabEnabled(1, true);
+    e.form->tabControl().setTab(1);
+    QApplication::processEvents();
+    e.qt->shot(QStringLiteral("/tmp/frmEigenschaften_zeitplaene.png"));
+}
+
+}  // namespace
