@@ -5,6 +5,7 @@
 #include "app/cAdminJob.h"
 #include "app/cProperties.h"
 #include "common/ErrorExit.h"
+#include "ui/windows/frmEigenschaften.h"
 #include "ui/windows/frmPakete.h"
 
 namespace {
@@ -13,7 +14,8 @@ constexpr long kRgbGrau = 200 + 200 * 0x100 + 200 * 0x10000;
 constexpr int kMauszeigerNormal = 0;
 constexpr int kMauszeigerSanduhr = 11;
 
-void fensterEntladen(std::shared_ptr<WindowContract>& fenster) {
+template <class Fenster>
+void fensterEntladen(std::shared_ptr<Fenster>& fenster) {
     if (auto oFenster = std::exchange(fenster, nullptr)) {
         oFenster->window().Unload();
     }

@@ -15,6 +15,7 @@
 #include "schedule/cSchedule.h"
 
 class cProperties;
+class frmEigenschaften;
 class frmPakete;
 class IBrowser;
 class IComboBox;
@@ -226,9 +227,9 @@ class cAdminJob {
 
     std::shared_ptr<frmPakete> moFrmPakete;
     std::shared_ptr<IBrowser> moPakete;
-    // The windows of the job editor and the schedule dialogs, held by their common base
-    // until their own contracts take the place.
-    std::shared_ptr<WindowContract> mofrmEigenschaften;
+    std::shared_ptr<frmEigenschaften> mofrmEigenschaften;
+    // The schedule dialogs, held by their common base until their own contracts take the
+    // place.
     std::shared_ptr<WindowContract> mofrmzeitIntervall;
     std::shared_ptr<WindowContract> mofrmZeitplanEigenschaften;
 

@@ -1,6 +1,7 @@
 #include "gui/LayoutFrmEigenschaften.h"
 
 #include <QGridLayout>
+#include <algorithm>
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
@@ -10,6 +11,9 @@ namespace {
 
 constexpr int kFieldColumn = 1;
 constexpr int kChooserColumn = 2;
+constexpr int kPanelMargin = 8;
+// From a frame's edge to its fields' captions: its border and margin.
+constexpr int kPanelIndent = kPanelMargin + 2;
 
 class EditorLayout {
   public:
@@ -64,7 +68,20 @@ class EditorLayout {
             return;
         }
         auto* column = new QVBoxLayout(page);
-        auto* head = new QGridLayout;
+        // The job's own data keep their height; the panels below take what is left.
+        auto* headArea = new QWidget(page);
+        headArea->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
+        auto* head = new QGridLayout(headArea);
+        head->setContentsMargins(0, 0, 0, 0);
+        captionWidth_ = widestCaption();
+        // The fields of the panels line up with those above, inside their frames' margins.
+        head->setColumnMinimumWidth(0, captionWidth_ + kPanelIndent);
+        for (QWidget* field : {widget("cboComboBox", 0), widget("cboComboBox", 2),
+                               widget("ctlMandant")}) {
+            if (field) {
+                field->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+            }
+        }
         head->setColumnStretch(1, 2);
         head->setColumnStretch(2, 1);
         put(head, caption("txtTextBox", 0), 0, 0);
@@ -81,11 +98,13 @@ class EditorLayout {
         }
         put(head, widget("lblLabel", 1), 4, 0);
         put(head, widget("lblLabel", 2), 4, 1);
-        put(head, widget("lblLetzteAenderung"), 4, 2, 1, Qt::AlignRight);
-        column->addLayout(head);
+        if (auto* changed = qobject_cast<QLabel*>(widget("lblLetzteAenderung"))) {
+            changed->setWordWrap(false);
+            head->addWidget(changed, 4, 2, Qt::AlignRight);
+        }
+        column->addWidget(headArea);
 
         // The panels of the job types, in the order the types stack them.
-        bool stretches = false;
         for (const char* panel : {"fraNivora", "FraTxtImport", "fraImport", "fraBuchungen",
                                   "fraScandokumente", "picBelegarten"}) {
             QtControlView* v = window_.view(QString::fromUtf8(panel));
@@ -93,13 +112,17 @@ class EditorLayout {
                 continue;
             }
             const bool grows = fill(*v, QString::fromUtf8(panel));
-            column->addWidget(v->widget(), grows ? 1 : 0);
-            stretches = stretches || grows;
+            if (!grows) {
+                v->widget()->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
+            }
+            column->addWidget(v->widget(), grows ? 100 : 0);
         }
-        if (!stretches) {
-            column->addStretch(1);
+        // Takes the height when no panel that grows is shown.
+        column->addStretch(1);
+        if (QWidget* clock = widget("lblLabel", 0)) {
+            clock->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+            column->addWidget(clock);
         }
-        addTo(column, widget("lblLabel", 0));
     }
 
     // Lays out the controls declared in the panel: fields with their captions, a choice
@@ -111,7 +134,9 @@ class EditorLayout {
             return false;
         }
         auto* grid = new QGridLayout(area);
+        grid->setContentsMargins(kPanelMargin, kPanelMargin, kPanelMargin, kPanelMargin);
         grid->setColumnStretch(kFieldColumn, 1);
+        grid->setColumnMinimumWidth(0, captionWidth_);
         int row = 0;
         int lastField = -1;
         bool grows = false;
@@ -154,6 +179,17 @@ class EditorLayout {
         return grows;
     }
 
+    int widestCaption() const {
+        int widest = 0;
+        for (HeadlessControl* c : window_.controls()) {
+            auto* v = dynamic_cast<QtControlView*>(c);
+            if (QLabel* label = v ? v->captionLabel() : nullptr) {
+                widest = std::max(widest, label->fontMetrics().horizontalAdvance(label->text()));
+            }
+        }
+        return widest + 8;
+    }
+
     void schedules(QWidget* page) {
         if (!page) {
             return;
@@ -169,6 +205,7 @@ class EditorLayout {
     }
 
     QtWindow& window_;
+    int captionWidth_ = 0;
 };
 
 }  // namespace

@@ -6,6 +6,7 @@
 #include "common/ErrorExit.h"
 #include "joblist/MenuStateTable.h"
 #include "ui/Browser.h"
+#include "ui/windows/frmEigenschaften.h"
 #include "ui/windows/frmPakete.h"
 
 namespace {

@@ -21,6 +21,7 @@
 #include "suite/SuiteServices.h"
 #include "tests/common/CommonFakes.h"
 #include "tests/headless/HeadlessTestKit.h"
+#include "ui/windows/frmEigenschaften.h"
 #include "ui/windows/frmPakete.h"
 
 // The private parts the tests look at.
@@ -33,7 +34,7 @@ class AdminJobTestAccess {
     static long jobZeile(cAdminJob& a) { return a.mlJobZeile; }
     static std::vector<Auftragsart>& auftragsarten(cAdminJob& a) { return a.maAuftragsarten; }
     static const QString& jobNamen(cAdminJob& a) { return a.msJobNamen; }
-    static std::shared_ptr<WindowContract>& eigenschaften(cAdminJob& a) {
+    static std::shared_ptr<frmEigenschaften>& eigenschaften(cAdminJob& a) {
         return a.mofrmEigenschaften;
     }
     static QString auswahlBedingung(cAdminJob& a) { return a.msAuswahlBedingung(); }

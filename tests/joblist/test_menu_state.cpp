@@ -30,10 +30,8 @@ class MenuState : public ::testing::Test {
     }
     // A properties window, as far as the list's state is concerned.
     void eigenschaftenOeffnen() {
-        WindowDecl decl;
-        decl.name = QStringLiteral("frmEigenschaften");
-        AdminJobTestAccess::eigenschaften(w.admin()) =
-            std::make_shared<WindowContract>(w.windows->create(decl));
+        AdminJobTestAccess::eigenschaften(w.admin()) = std::make_shared<frmEigenschaften>(
+            w.windows->create(frmEigenschaften::declaration()));
     }
 };
 

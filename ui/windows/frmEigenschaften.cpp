@@ -16,7 +16,7 @@ class Declaration {
         d_.name = QStringLiteral("frmEigenschaften");
         d_.caption = QStringLiteral("Paket bearbeiten");
         d_.keyPreview = true;  // F1 opens the help of the page on show, wherever the focus is
-        d_.width = 660;
+        d_.width = 720;
         d_.height = 640;
 
         add("tbrMain", -1, ControlKind::ToolBar);
