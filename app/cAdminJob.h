@@ -1,21 +1,26 @@
 #pragma once
 
 #include <QDateTime>
+#include <QList>
 #include <QString>
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <vector>
 
 #include "app/ClassTrace.h"
 #include "app/GuardedCallback.h"
 #include "common/Host.h"
 #include "common/MessageBox.h"
+#include "common/OptionFileReader.h"
 #include "jobs/JobRecord.h"
 #include "schedule/cSchedule.h"
 
 class cProperties;
 class frmEigenschaften;
+class frmOptTextDatName;
+class frmOptTextDateien;
 class frmPakete;
 class IBrowser;
 class IComboBox;
@@ -222,6 +227,138 @@ class cAdminJob {
     long mlVorgabe = 0;
     long mlGrau = 0;
     bool mbMitNivora = false;
+
+    // ---- Job editor (jobs/AdminJobEditor*.cpp, joblist/AdminJobPropertiesWindow.cpp) ----
+
+    friend class EditorTestAccess;
+
+    void mAktuFrmPakete(long lJobId);
+    void mSetFormCaption(const QString& sName);
+    // When the editor stays where it was, the list goes back to the job on show: the list
+    // and the step tools always stand on it.
+    void mListeAufAngezeigtenAuftrag();
+    // Hands the editor's events to this controller, or cuts them when it goes.
+    void mEigenschaftenVerbinden();
+    void mEigenschaftenTrennen();
+    void mShowJobEigenschaften();
+    void mInitCBODaten(std::uint8_t bytDatenArt);
+    void mInitCBO_MandKanz(std::uint8_t bytKey);
+    void mEigenschaftenGeaendert();
+    void mEigenschaftenSpeichern(bool bUebernehmen);
+    // The schedule of the current row of the schedule grid, when a schedule row is current.
+    void mZeitplanDerZeileBearbeiten();
+
+    void mofrmEigenschaften_evFrmEigenschaftenCommandButtonClicked(int Index);
+    void mofrmEigenschaften_evZeitplanEdit(int lRow);
+    void mofrmEigenschaften_evFrmEigenschaftenComboBoxClicked(int Index);
+    void mofrmEigenschaften_evCTLMandantChange();
+    void mofrmEigenschaften_evGeaendert();
+    void mofrmEigenschaften_evImportfileChanged();
+    void mofrmEigenschaften_evToolClick(const QString& sTool);
+    void mofrmEigenschaften_evOptDateiAuswaehlen(int Index);
+    void mofrmEigenschaften_evMitFremdformat();
+
+    // The schedule dialog and the copying of schedules; they act once written.
+    void mShowFRMZeitplanEigenschaften(long lZeitplanId, const QString& sName);
+    void mShowZeitPlanKopieren(long lZeitplanId, const QString& sName);
+
+    // (owner: panels+checks)
+    void mDatenart(std::uint8_t bytDatenArt);
+    void mMandKanz(std::uint8_t bytMandKanz);
+    bool mbCheckEigenschaften();
+    void mChangeMitFremdformat();
+    void mShowFileSystemPfad(int Index);
+    void mMappingDateiAuswaehlen();
+    // (owner: schedules)
+    void mInitGridZeitplan();
+    void mFuelleGridZeitplan();
+    void mLoescheZeitplan();
+    // (owner: files+doctypes)
+    void mInitCBO_NivoraDaten(long& lKey);
+    void mNivoraDaten(long lKey);
+    void mInitGRD_Belegarten();
+    void mFillBelegGrid(const QString& sBelegarten);
+    QString msGetBelegarten();
+    void mofrmEigenschaften_evGrdBelegAfterEdit(int lRow);
+    void mOptDateiAuswaehlen(int Index);
+    void mOptDateienSetzen(const QString& sSkriptVorher);
+    long mlCheckImportSkript(const QString& sSkript);
+
+    long mlMandantId = 0;
+    // The third field of a text import's Zusatzinfo: the chosen text files.
+    QString msTextDateien;
+    // The editor's schedule grid while the editor is open (owner: schedules).
+    class IGrid* moGridZeitplan = nullptr;
+
+    // ---- Job-type panels and validation (jobs/AdminJobPanels*.cpp, AdminJobValidation*) --
+
+    friend class PanelsTestAccess;
+
+    // The show and hide of one panel: visible, and its fields enabled and in the tab order,
+    // by the flag.
+    void mSetFraBuchungen(bool bShow);
+    // The directory frame stands when either flag is set; its fields follow bEnable.
+    void mSetFraImport(bool bEnable, bool bFrame);
+    void mSetFraScanDokumente(bool bShow);
+    void mSetFraNivora(bool bShow);
+    void mSetPicBelegarten(bool bShow);
+    void mSetFraTxtImport(bool bShow);
+    // The caption of the text file field: a file for one client, a path for all of them.
+    void mSetTextDateiauswahl(std::uint8_t bytMandKanz, std::uint8_t bytDatenArt);
+    // Asks once per job shown whether an empty backup directory is meant; false when the
+    // user wants to choose one.
+    bool mbCheckBackupPfadVorhanden();
+
+    // The start of the directory and file dialogs when their field is empty.
+    QString msStandardPfad;
+
+    // ---- Schedule persistence (schedule/AdminJobSchedulePersistence.cpp,
+    // schedule/ScheduleGrid.cpp) ----------------------------------------------------------
+    // mInitGridZeitplan, mFuelleGridZeitplan, mLoescheZeitplan and moGridZeitplan stand with
+    // the job editor above; mZeitplanEinfuegen with the job persistence.
+
+    friend class SchedulePersistenceTestAccess;
+
+    // Writes the schedule to the row lZeitplanId of the job lJobId; an id without a row (0,
+    // -1) adds a new row.
+    void mZeitplanSpeichern(long& lZeitplanId, long& lJobId, cSchedule& oSchedule);
+    // Asks, then deletes the schedule mlZeitplanId.
+    void mZeitplanLoeschen();
+    void moGridZeitplan_KeyDown(int iKeyCode);
+    // The look all grids of the system share; touches no data.
+    void mSetzeGridEigenschaften(class IGrid& grid);
+
+    // ---- Import option files and document types (jobs/AdminJobOptionFiles*.cpp,
+    //      jobs/AdminJobDocumentTypes.cpp) -------------------------------------------------
+
+    friend class OptionFilesTestAccess;
+
+    // The three choices of a row of the text file grid, one procedure each.
+    struct TextDateiPfad {};
+    struct TextDateiNamensAnfang {};
+    struct TextDateiNamensAnfangUebernehmen {};
+
+    // The entries of a script; no collection when it cannot be read. Gives their count.
+    long mlCheckImportSkript(const QString& sSkript,
+                             std::optional<QList<OptionFileEntry>>& colEintraege);
+    QString mDateinameMitStern(const QString& sDatei);
+    void mOptTxtDateiMultiAuswahl(const QList<OptionFileEntry>& colEintraege);
+    void mOptTextDateiAuswaehlen(TextDateiPfad, int lZeile);
+    void mOptTextDateiAuswaehlen(TextDateiNamensAnfang, int lZeile);
+    void mOptTextDateiAuswaehlen(TextDateiNamensAnfangUebernehmen, int lZeile);
+    void mOptTextDateienUebernehmen();
+    void moFrmTextDateien_evTextDateiAuswaehlen(int lZeile, int Index);
+    void moFrmTextDateien_evTextDateienUebernehmen();
+    void moFrmTextDateiNamen_evTextDateienNamenUebernehmen(int lZeile);
+
+    // Ticked rows of the document type grid.
+    long mlBelegeAnzahl = 0;
+    // The directory of txtTextBox(4) while the dealer key leaves that field empty.
+    QString msNivoraTempPfad;
+    long mlNivoraDaten = 0;
+
+    std::shared_ptr<frmOptTextDateien> moFrmTextDateien;
+    std::shared_ptr<frmOptTextDatName> moFrmTextDateiNamen;
 
     // ---- Windows: each empty until it exists --------------------------------------------
 

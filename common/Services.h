@@ -8,6 +8,7 @@
 #include "common/CoreLibraries.h"
 #include "common/FileSystem.h"
 #include "common/Host.h"
+#include "common/OptionFileReader.h"
 #include "common/PlatformUi.h"
 #include "common/Recordset.h"
 #include "common/StaffClient.h"
@@ -42,6 +43,7 @@ struct Services {
     Factory<LogClass> newLog;
     Factory<OIMitarbeiterClass> newMitarbeiter;
     Factory<OIMandantClass> newMandant;
+    Factory<OptionFileReader> newOptionFileReader;
 
     std::shared_ptr<FileSystemObject> fileSystem;
     std::shared_ptr<Shell> shell;

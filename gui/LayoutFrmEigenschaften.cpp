@@ -1,9 +1,9 @@
 #include "gui/LayoutFrmEigenschaften.h"
 
 #include <QGridLayout>
-#include <algorithm>
 #include <QHBoxLayout>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "gui/QtWindow.h"
 
@@ -76,8 +76,8 @@ class EditorLayout {
         captionWidth_ = widestCaption();
         // The fields of the panels line up with those above, inside their frames' margins.
         head->setColumnMinimumWidth(0, captionWidth_ + kPanelIndent);
-        for (QWidget* field : {widget("cboComboBox", 0), widget("cboComboBox", 2),
-                               widget("ctlMandant")}) {
+        for (QWidget* field :
+             {widget("cboComboBox", 0), widget("cboComboBox", 2), widget("ctlMandant")}) {
             if (field) {
                 field->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
             }
@@ -158,8 +158,8 @@ class EditorLayout {
                     lastField = row++;
                     break;
                 case ControlKind::Button:
-                    w->setMaximumWidth(
-                        std::max(32, w->fontMetrics().horizontalAdvance(QStringLiteral("...")) + 20));
+                    w->setMaximumWidth(std::max(
+                        32, w->fontMetrics().horizontalAdvance(QStringLiteral("...")) + 20));
                     grid->addWidget(w, lastField >= 0 ? lastField : row++, kChooserColumn);
                     lastField = -1;
                     break;

@@ -6,26 +6,12 @@
 
 #include "common/ErrObject.h"
 #include "common/Services.h"
+#include "common/Variants.h"
 
 namespace {
 
 bool isNumberType(const QVariant& v) {
-    switch (v.typeId()) {
-        case QMetaType::Int:
-        case QMetaType::UInt:
-        case QMetaType::Long:
-        case QMetaType::ULong:
-        case QMetaType::LongLong:
-        case QMetaType::ULongLong:
-        case QMetaType::Short:
-        case QMetaType::UShort:
-        case QMetaType::Double:
-        case QMetaType::Float:
-        case QMetaType::Bool:
-            return true;
-        default:
-            return false;
-    }
+    return isNumberVariant(v, true);
 }
 
 // Both as numbers when one of them is a number and the other reads as one.

@@ -264,6 +264,3 @@ void cAdminJob::mAuftragEinfuegen() {
         ex.fail();
     }
 }
-
-// Filled by the schedule persistence.
-void cAdminJob::mZeitplanEinfuegen(long) {}

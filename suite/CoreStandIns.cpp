@@ -7,6 +7,7 @@
 
 #include "common/Recordset.h"
 #include "common/Services.h"
+#include "common/Variants.h"
 
 namespace {
 
@@ -82,26 +83,15 @@ void SuiteCoreError::Report(long number, const QString& source, const QString& d
 }
 
 long SuiteCoreConvert::ToLong(const QVariant& value) {
+    if (isNumberVariant(value)) {
+        return toLongChecked(isRealVariant(value) ? value.toDouble()
+                                                  : static_cast<double>(value.toLongLong()));
+    }
     switch (value.typeId()) {
         case QMetaType::UnknownType:
             return 0;  // an empty variant converts to 0
         case QMetaType::Bool:
             return value.toBool() ? -1 : 0;
-        case QMetaType::Int:
-        case QMetaType::UInt:
-        case QMetaType::Long:
-        case QMetaType::ULong:
-        case QMetaType::LongLong:
-        case QMetaType::ULongLong:
-        case QMetaType::Short:
-        case QMetaType::UShort:
-        case QMetaType::Char:
-        case QMetaType::SChar:
-        case QMetaType::UChar:
-            return toLongChecked(static_cast<double>(value.toLongLong()));
-        case QMetaType::Double:
-        case QMetaType::Float:
-            return toLongChecked(value.toDouble());
         case QMetaType::QString:
             return toLongChecked(numberInText(value.toString()));
         case QMetaType::QByteArray:

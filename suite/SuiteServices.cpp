@@ -6,6 +6,7 @@
 #include "suite/CoreStandIns.h"
 #include "suite/CoreTexte.h"
 #include "suite/CoreTools.h"
+#include "suite/OptionFileReaderText.h"
 #include "suite/StaffClient.h"
 #include "suite/TraceLog.h"
 
@@ -24,6 +25,7 @@ Services makeSuiteServices(std::shared_ptr<SuiteConfig> config, std::shared_ptr<
     s.newLog = [config] { return std::make_unique<SuiteTraceLog>(config); };
     s.newMitarbeiter = [] { return std::make_unique<SuiteMitarbeiter>(); };
     s.newMandant = [] { return std::make_unique<SuiteMandant>(); };
+    s.newOptionFileReader = [] { return std::make_unique<TextOptionFileReader>(); };
     s.coreGlobal = std::make_shared<SuiteCoreGlobal>(config);
     s.coreTexte = std::make_shared<SuiteCoreTexte>();
     return s;

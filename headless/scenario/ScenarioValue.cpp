@@ -5,6 +5,7 @@
 #include <QRegularExpression>
 #include <cmath>
 
+#include "common/Variants.h"
 #include "headless/scenario/ScenarioError.h"
 
 ScenarioValue ScenarioValue::text(const QString& t) {
@@ -76,20 +77,13 @@ ScenarioValue ScenarioValue::fromVariant(const QVariant& v) {
     if (!v.isValid() || v.isNull()) {
         return text(QString());
     }
+    if (v.typeId() == QMetaType::Bool) {
+        return boolean(v.toBool());
+    }
+    if (isNumberVariant(v)) {
+        return number(v.toDouble());
+    }
     switch (v.typeId()) {
-        case QMetaType::Bool:
-            return boolean(v.toBool());
-        case QMetaType::Int:
-        case QMetaType::UInt:
-        case QMetaType::Long:
-        case QMetaType::ULong:
-        case QMetaType::LongLong:
-        case QMetaType::ULongLong:
-        case QMetaType::Short:
-        case QMetaType::UShort:
-        case QMetaType::Double:
-        case QMetaType::Float:
-            return number(v.toDouble());
         case QMetaType::QDate:
             return date(v.toDate());
         case QMetaType::QDateTime:

@@ -25,7 +25,9 @@ struct QtEditor {
         form->evOptDateiAuswaehlen = [this](int i) {
             events << QStringLiteral("OptDateiAuswaehlen %1").arg(i);
         };
-        form->evToolClick = [this](const QString& t) { events << QStringLiteral("ToolClick ") + t; };
+        form->evToolClick = [this](const QString& t) {
+            events << QStringLiteral("ToolClick ") + t;
+        };
         form->evGeaendert = [this] { events << QStringLiteral("Geaendert"); };
         form->evImportfileChanged = [this] { events << QStringLiteral("ImportfileChanged"); };
         form->evMitFremdformat = [this] { events << QStringLiteral("MitFremdformat"); };
@@ -44,7 +46,7 @@ struct QtEditor {
                 .control(QString::fromUtf8(panel))
                 ->setVisible(shown.contains(QString::fromUtf8(panel)));
         }
-        QApplication::processEvents();
+        QTest::qWait(20);
     }
 
     QtWindowFactory factory;

@@ -252,6 +252,8 @@ void frmEigenschaften::onControl(const ControlEvent& e) {
             }
             if (is(e, "txtTextBox") || is(e, "ctlOptFileName")) {
                 fire(evGeaendert);
+            } else if (is(e, "grdZeitplan")) {
+                fire(grdZeitplan_KeyDown, e.keyCode, e.shift);
             }
             break;
         case EventType::AfterEdit:
@@ -287,6 +289,10 @@ void frmEigenschaften::onKeyDown(int keyCode, int shift) {
     if (helpKey(keyCode, shift)) {
         return;
     }
+    if (grdZeitplan().Focused()) {
+        fire(grdZeitplan_KeyDown, keyCode, shift);
+        return;
+    }
     for (const ControlDecl& c : window().declaration().controls) {
         if (c.name != QLatin1String("txtTextBox") && c.name != QLatin1String("ctlOptFileName")) {
             continue;
@@ -310,8 +316,8 @@ bool frmEigenschaften::helpKey(int keyCode, int shift) {
 
 void frmEigenschaften::showTime() {
     const QDateTime now = clockNow();
-    const QDateTime shown = QDateTime(now.date(), QTime(now.time().hour(), now.time().minute(),
-                                                        now.time().second()));
+    const QDateTime shown =
+        QDateTime(now.date(), QTime(now.time().hour(), now.time().minute(), now.time().second()));
     if (shown == shownTime_) {
         return;
     }

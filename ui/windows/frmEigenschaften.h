@@ -72,6 +72,9 @@ class frmEigenschaften : public WindowContract {
     // The choice button of the script (0) or the text file (1).
     std::function<void(int index)> evOptDateiAuswaehlen;
     std::function<void()> evMitFremdformat;
+    // A key pressed while the schedule grid has the focus: the grid's own key event, which
+    // the controller holds as moGridZeitplan.
+    std::function<void(int keyCode, int shift)> grdZeitplan_KeyDown;
 
   private:
     void onControl(const ControlEvent& e);

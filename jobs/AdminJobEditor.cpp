@@ -1,0 +1,315 @@
+// The job editor: filling it from a job, marking it as changed, saving it back, and the combo
+// boxes for the job type and the client kind.
+#include "app/Required.h"
+#include "app/cAdminJob.h"
+#include "app/cProperties.h"
+#include "common/ErrorExit.h"
+#include "joblist/ListTools.h"
+#include "jobs/ClientKinds.h"
+#include "jobs/JobRecord.h"
+#include "jobs/JobTypes.h"
+#include "jobs/Zusatzinfo.h"
+#include "ui/Browser.h"
+#include "ui/windows/frmEigenschaften.h"
+
+namespace {
+
+constexpr int kCboAuftragsart = 0;
+constexpr int kCboMandKanz = 2;
+constexpr int kCboNivora = 3;
+constexpr int kCmdUebernehmen = 7;
+constexpr int kTabZeitplaene = 1;
+constexpr long kModusMandant = 0;
+constexpr long kModusKanzlei = 1;
+constexpr long kAktenTypNurKanzleien = 2;
+
+std::uint8_t alsByte(long lWert) {
+    return static_cast<std::uint8_t>(lWert < 0 || lWert > 255 ? 0 : lWert);
+}
+
+bool mitMitarbeiterBuchProp(long lDatenArt) {
+    return lDatenArt == DatenArt::Buchungen || lDatenArt == DatenArt::KestoDirekt ||
+           lDatenArt == DatenArt::Kunden || lDatenArt == DatenArt::Lieferanten;
+}
+
+bool archivTyp(long lDatenArt) {
+    return lDatenArt == DatenArt::ScanDokumente || lDatenArt == DatenArt::Verschlagwortung;
+}
+
+}  // namespace
+
+void cAdminJob::mShowJobEigenschaften() {
+    ErrorExit ex(QStringLiteral("mShowJobEigenschaften"), kKlasse);
+    try {
+        frmEigenschaften& form = required(mofrmEigenschaften);
+        JobRecord rec;
+        rec.lJobId = mlJobId;
+        rec.lMandant = mlMandantId;
+        mAuftragLesen(rec);
+        mlMandantId = rec.lMandant;
+        const long lDatenArt = rec.bytDatenArt;
+
+        QString sBelegarten;
+        long lHaendlerSchluessel = 0;
+        long lMitarbeiterBuchProp = 0;
+        if (lDatenArt == DatenArt::KestoDirekt) {
+            sBelegarten = std::exchange(rec.sVerzeichnis2, QString());
+        }
+        const Zusatzinfo zusatz = zusatzinfoLesen(lDatenArt, rec.sZusatzinfo);
+        if (lDatenArt == DatenArt::Nivora) {
+            lHaendlerSchluessel = zusatz.lHaendlerSchluessel;
+        }
+        if (mitMitarbeiterBuchProp(lDatenArt)) {
+            lMitarbeiterBuchProp = zusatz.lMitarbeiterId;
+        }
+
+        mSetFormCaption(rec.sName);
+        form.txtTextBox(0).setText(rec.sName);
+        form.lblLabel(2).setCaption(rec.sErstellt);
+        form.txtTextBox(2).setText(rec.sBeschreibung);
+        if (!archivTyp(lDatenArt)) {
+            form.txtTextBox(3).setText(rec.sVerzeichnis1);
+            form.txtTextBox(1).setText(rec.sVerzeichnis2);
+        } else {
+            form.ctlMitarbeiter().setId(rec.lArchivMitarbeiter);
+            form.ctlKennwort().setText(rec.sArchivKennwort);
+        }
+        form.txtTextBox(4).setText(rec.sVerzeichnis3);
+        form.chkCheckBox(0).setValue(rec.bytAktiviert);
+
+        cProperties& properties = required(moProperties);
+        std::uint8_t bytMandKanz = rec.bytMandKanz;
+        if (mbFirmaKanzlei() && properties.plAktenTyp == kAktenTypNurKanzleien) {
+            bytMandKanz = MandKanz::Kanzlei;
+        }
+        form.ctlMandant().setMode(bytMandKanz == MandKanz::Kanzlei ? kModusKanzlei : kModusMandant);
+        if (mbFirmaKanzlei()) {
+            // An installation of one client kind has its client fixed.
+            if (mlJobId == -1) {
+                mlMandantId = properties.plManId;
+            }
+            form.ctlMandant().setEnabled(false);
+        }
+        form.ctlMandant().setId(mlMandantId);
+        form.lblLetzteAenderung().setCaption(rec.sLetzteAenderung);
+        if (mitMitarbeiterBuchProp(lDatenArt)) {
+            form.ctlMitarbeiterBuchProp().setId(lMitarbeiterBuchProp);
+        }
+
+        msTextDateien.clear();
+        if (lDatenArt == DatenArt::Textdatei && !rec.sZusatzinfo.isEmpty()) {
+            form.ctlMitarbeiterBuchProp().setId(zusatz.lMitarbeiterId);
+            form.ctlOptFileName(0).setText(zusatz.sSkript);
+            msTextDateien = zusatz.sTextdateien;
+        }
+        mOptDateienSetzen(QString());
+
+        if (lDatenArt == DatenArt::Buchungen) {
+            form.chkCheckBox(1).setValue(rec.bSingleLog ? 1 : 0);
+            form.chkFremdFormat().setValue(rec.bFremdFormat ? 1 : 0);
+            form.ctlFremdFilter().setText(rec.sFremdDateifilter);
+            form.ctlFremdMapping().setText(rec.sFremdMapping);
+            form.ctlFremdFilter().setEnabled(rec.bFremdFormat);
+            form.ctlFremdMapping().setEnabled(rec.bFremdFormat);
+            form.cmdCommandButton(10).setEnabled(rec.bFremdFormat);
+        }
+
+        mInitCBODaten(rec.bytDatenArt);
+        mInitCBO_MandKanz(bytMandKanz);
+        mInitCBO_NivoraDaten(lHaendlerSchluessel);
+        mInitGRD_Belegarten();
+        mFillBelegGrid(sBelegarten);
+    } catch (...) {
+        ex.fail();
+    }
+}
+
+void cAdminJob::mInitCBODaten(std::uint8_t bytDatenArt) {
+    ErrorExit ex(QStringLiteral("mInitCBODaten"), kKlasse);
+    try {
+        mInitCBOAuftragsart(required(mofrmEigenschaften).cboComboBox(kCboAuftragsart), bytDatenArt,
+                            false);
+        mDatenart(bytDatenArt);
+    } catch (...) {
+        ex.fail();
+    }
+}
+
+void cAdminJob::mInitCBO_MandKanz(std::uint8_t bytKey) {
+    ErrorExit ex(QStringLiteral("mInitCBO_MandKanz"), kKlasse);
+    try {
+        frmEigenschaften& form = required(mofrmEigenschaften);
+        IComboBox& cbo = form.cboComboBox(kCboMandKanz);
+        const long lAktenTyp = required(moProperties).plAktenTyp;
+        cbo.setVisible(true);
+        cbo.Clear();
+        std::uint8_t bytTop = 0;
+        std::uint8_t bytEinzeln = 0;
+        if (lAktenTyp == 1 || lAktenTyp == 4) {
+            cbo.AddItem(MandKanz::Mandant, mandKanzText(MandKanz::Mandant));
+            cbo.setEnabled(false);
+            bytTop = bytEinzeln = MandKanz::Mandant;
+        }
+        if (lAktenTyp == 2 || lAktenTyp == 4) {
+            cbo.AddItem(MandKanz::Kanzlei, mandKanzText(MandKanz::Kanzlei));
+            cbo.setEnabled(false);
+            bytTop = bytEinzeln = MandKanz::Kanzlei;
+        }
+        const bool bFirmaKanzlei = mbFirmaKanzlei();
+        if (!bFirmaKanzlei) {
+            cbo.setEnabled(true);
+            const long lDatenArt = form.cboComboBox(kCboAuftragsart).Key();
+            if (lDatenArt == DatenArt::Textdatei || lDatenArt == DatenArt::Wirtschaftsgueter ||
+                lDatenArt == DatenArt::Verschlagwortung || lDatenArt == DatenArt::Buchungen ||
+                lDatenArt == DatenArt::ScanDokumente) {
+                for (std::uint8_t key : {MandKanz::AlleMandanten, MandKanz::AlleKanzleien,
+                                         MandKanz::AlleMandantenKanzleien}) {
+                    cbo.AddItem(key, mandKanzText(key));
+                }
+                bytTop = MandKanz::AlleMandantenKanzleien;
+            }
+        }
+        if (bytKey == 0) {
+            bytKey = bFirmaKanzlei ? bytEinzeln : MandKanz::Mandant;
+        }
+        cbo.setKey(bytKey <= bytTop ? bytKey : bytTop);
+        // The combo box stays silent when code selects: the panels follow the kind here.
+        const long lGewaehlt = cbo.Key();
+        if (lGewaehlt > 0) {
+            mbytMandKanz = alsByte(lGewaehlt);
+            mMandKanz(mbytMandKanz);
+        }
+    } catch (...) {
+        ex.fail();
+    }
+}
+
+void cAdminJob::mofrmEigenschaften_evFrmEigenschaftenComboBoxClicked(int Index) {
+    ErrorExit ex(QStringLiteral("mofrmEigenschaften_evFrmEigenschaftenComboBoxClicked"), kKlasse);
+    try {
+        if (!mofrmEigenschaften) {
+            return;
+        }
+        const long lKey = mofrmEigenschaften->cboComboBox(Index).Key();
+        switch (Index) {
+            case kCboAuftragsart: {
+                const std::uint8_t bytKey = alsByte(lKey);
+                mDatenart(bytKey);
+                if (bytKey != mbytDatenArt) {
+                    mEigenschaftenGeaendert();
+                    mbytDatenArt = bytKey;
+                }
+                break;
+            }
+            case kCboMandKanz: {
+                const std::uint8_t bytKey = alsByte(lKey);
+                mMandKanz(bytKey);
+                if (bytKey != mbytMandKanz) {
+                    mEigenschaftenGeaendert();
+                    // A selection of several text files does not carry over to another kind.
+                    if (mbytDatenArt == DatenArt::Textdatei &&
+                        msTextDateien.contains(QLatin1Char('?'))) {
+                        msTextDateien.clear();
+                    }
+                    mbytMandKanz = bytKey;
+                }
+                break;
+            }
+            case kCboNivora:
+                mNivoraDaten(lKey);
+                break;
+            default:
+                break;
+        }
+    } catch (...) {
+        ex.fail();
+    }
+}
+
+void cAdminJob::mEigenschaftenGeaendert() {
+    ErrorExit ex(QStringLiteral("mEigenschaftenGeaendert"), kKlasse);
+    try {
+        if (mbInitEigenschaften || !mofrmEigenschaften) {
+            return;
+        }
+        mofrmEigenschaften->cmdCommandButton(kCmdUebernehmen).setEnabled(true);
+        mofrmEigenschaften->tbrMain().setToolEnabled(QStringLiteral("barMain"),
+                                                     PropertiesTool::Save, true);
+    } catch (...) {
+        ex.fail();
+    }
+}
+
+void cAdminJob::mEigenschaftenSpeichern(bool bUebernehmen) {
+    ErrorExit ex(QStringLiteral("mEigenschaftenSpeichern"), kKlasse);
+    try {
+        if (!mofrmEigenschaften) {
+            return;
+        }
+        frmEigenschaften& form = *mofrmEigenschaften;
+        JobRecord rec;
+        rec.lJobId = mlJobId;
+        rec.bytDatenArt = alsByte(form.cboComboBox(kCboAuftragsart).Key());
+        rec.sName = form.txtTextBox(0).Text();
+        rec.sBeschreibung = form.txtTextBox(2).Text();
+        rec.bytAktiviert = alsByte(form.chkCheckBox(0).Value());
+        const long lDatenArt = rec.bytDatenArt;
+        if (!archivTyp(lDatenArt)) {
+            rec.sVerzeichnis1 = form.txtTextBox(3).Text();
+            rec.sVerzeichnis2 =
+                lDatenArt == DatenArt::KestoDirekt ? msGetBelegarten() : form.txtTextBox(1).Text();
+        } else {
+            rec.lArchivMitarbeiter = form.ctlMitarbeiter().Id();
+            rec.sArchivKennwort = form.ctlKennwort().Text();
+        }
+        if (lDatenArt == DatenArt::Textdatei &&
+            mlCheckImportSkript(form.ctlOptFileName(0).Text()) < 2) {
+            msTextDateien = form.ctlOptFileName(1).Text();
+        }
+
+        Zusatzinfo zusatz;
+        if (lDatenArt == DatenArt::Nivora) {
+            zusatz.lHaendlerSchluessel = form.cboComboBox(kCboNivora).Key();
+        } else if (mitMitarbeiterBuchProp(lDatenArt) || lDatenArt == DatenArt::Textdatei) {
+            zusatz.lMitarbeiterId = form.ctlMitarbeiterBuchProp().Id();
+        }
+        if (lDatenArt == DatenArt::Textdatei) {
+            zusatz.sSkript = form.ctlOptFileName(0).Text();
+            zusatz.sTextdateien = msTextDateien;
+        }
+        rec.sZusatzinfo = zusatzinfoSchreiben(lDatenArt, zusatz);
+
+        rec.bytMandKanz = alsByte(form.cboComboBox(kCboMandKanz).Key());
+        rec.sVerzeichnis3 = form.txtTextBox(4).Text();
+        if (lDatenArt == DatenArt::Buchungen) {
+            rec.bSingleLog = form.chkCheckBox(1).Value() == 1;
+            rec.bFremdFormat = form.chkFremdFormat().Value() == 1;
+            if (rec.bFremdFormat) {
+                rec.sFremdDateifilter = form.ctlFremdFilter().Text();
+                rec.sFremdMapping = form.ctlFremdMapping().Text();
+            }
+        }
+        rec.lMandant = form.ctlMandant().Id();
+
+        mAuftragSpeichern(rec);
+        mlJobId = rec.lJobId;
+        form.lblLetzteAenderung().setCaption(rec.sLetzteAenderung);
+        form.lblLabel(2).setCaption(rec.sErstellt);
+        msJobName = rec.sName;
+
+        if (bUebernehmen) {
+            form.tabControl().setTabEnabled(kTabZeitplaene, true);
+            form.cmdCommandButton(kCmdUebernehmen).setEnabled(false);
+            form.tbrMain().setToolEnabled(QStringLiteral("barMain"), PropertiesTool::Save, false);
+            mBrowserRefresh(false);
+            // The refresh has put the list on the saved job: that is the row to step from.
+            if (moPakete && moPakete->Auswahl().RecordCount() >= 1) {
+                const ISelectionObject& auswahl = moPakete->Auswahl();
+                mlJobZeile = auswahl.Row() >= 1 ? auswahl.Row() : auswahl.RowCount() - 1;
+            }
+            mAktuFrmPakete(mlJobId);
+        }
+    } catch (...) {
+        ex.fail();
+    }
+}

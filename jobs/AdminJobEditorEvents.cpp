@@ -1,0 +1,196 @@
+// The editor's events: their wiring to this controller and the handlers, the buttons among
+// them.
+#include "app/Required.h"
+#include "app/cAdminJob.h"
+#include "common/ErrorExit.h"
+#include "ui/Grid.h"
+#include "ui/windows/frmEigenschaften.h"
+
+namespace {
+
+namespace Cmd {
+constexpr int Ok = 0;
+constexpr int Abbrechen = 1;
+constexpr int Importverzeichnis = 2;
+constexpr int ZeitplanNeu = 3;
+constexpr int ZeitplanBearbeiten = 4;
+constexpr int ZeitplanLoeschen = 5;
+constexpr int Backupverzeichnis = 6;
+constexpr int Uebernehmen = 7;
+constexpr int Logverzeichnis = 8;
+constexpr int ZeitplanKopieren = 9;
+constexpr int Mappingdatei = 10;
+constexpr int Anzahl = 11;
+}  // namespace Cmd
+
+namespace ZeitplanSpalte {
+constexpr int Name = 0;
+constexpr int Id = 3;
+}  // namespace ZeitplanSpalte
+
+}  // namespace
+
+void cAdminJob::mEigenschaftenVerbinden() {
+    frmEigenschaften& form = required(mofrmEigenschaften);
+    form.evFrmEigenschaftenCommandButtonClicked = mLeben.guard(
+        [this](int Index) { mofrmEigenschaften_evFrmEigenschaftenCommandButtonClicked(Index); });
+    form.evZeitplanEdit =
+        mLeben.guard([this](int lRow) { mofrmEigenschaften_evZeitplanEdit(lRow); });
+    form.evFrmEigenschaftenComboBoxClicked = mLeben.guard(
+        [this](int Index) { mofrmEigenschaften_evFrmEigenschaftenComboBoxClicked(Index); });
+    form.evCTLMandantChange = mLeben.guard([this] { mofrmEigenschaften_evCTLMandantChange(); });
+    form.evGeaendert = mLeben.guard([this] { mofrmEigenschaften_evGeaendert(); });
+    form.evImportfileChanged = mLeben.guard([this] { mofrmEigenschaften_evImportfileChanged(); });
+    form.evGrdBelegAfterEdit =
+        mLeben.guard([this](int lRow) { mofrmEigenschaften_evGrdBelegAfterEdit(lRow); });
+    form.evToolClick =
+        mLeben.guard([this](const QString& sTool) { mofrmEigenschaften_evToolClick(sTool); });
+    form.evOptDateiAuswaehlen =
+        mLeben.guard([this](int Index) { mofrmEigenschaften_evOptDateiAuswaehlen(Index); });
+    form.evMitFremdformat = mLeben.guard([this] { mofrmEigenschaften_evMitFremdformat(); });
+    form.grdZeitplan_KeyDown =
+        mLeben.guard([this](int iKeyCode, int) { moGridZeitplan_KeyDown(iKeyCode); });
+}
+
+void cAdminJob::mEigenschaftenTrennen() {
+    if (!mofrmEigenschaften) {
+        return;
+    }
+    frmEigenschaften& form = *mofrmEigenschaften;
+    form.evFrmEigenschaftenCommandButtonClicked = nullptr;
+    form.evZeitplanEdit = nullptr;
+    form.evFrmEigenschaftenComboBoxClicked = nullptr;
+    form.evCTLMandantChange = nullptr;
+    form.evGeaendert = nullptr;
+    form.evImportfileChanged = nullptr;
+    form.evGrdBelegAfterEdit = nullptr;
+    form.evToolClick = nullptr;
+    form.evOptDateiAuswaehlen = nullptr;
+    form.evMitFremdformat = nullptr;
+    form.grdZeitplan_KeyDown = nullptr;
+}
+
+void cAdminJob::mofrmEigenschaften_evFrmEigenschaftenCommandButtonClicked(int Index) {
+    mPaketeCMDClick(Index);
+}
+
+void cAdminJob::mofrmEigenschaften_evZeitplanEdit(int) {
+    withErrorExit(QStringLiteral("mofrmEigenschaften_evZeitplanEdit"), kKlasse, 0,
+                  [this](ErrorExit&) {
+                      mZeitplanDerZeileBearbeiten();
+                      return 0;
+                  });
+}
+
+void cAdminJob::mofrmEigenschaften_evCTLMandantChange() {
+    if (!mbInitEigenschaften) {
+        mEigenschaftenGeaendert();
+    }
+}
+
+void cAdminJob::mofrmEigenschaften_evGeaendert() {
+    mEigenschaftenGeaendert();
+}
+
+// Typing is noticed through its keys, so a text set by code marks nothing.
+void cAdminJob::mofrmEigenschaften_evImportfileChanged() {}
+
+void cAdminJob::mofrmEigenschaften_evToolClick(const QString& sTool) {
+    mEigenschaftenTool(sTool);
+}
+
+void cAdminJob::mofrmEigenschaften_evOptDateiAuswaehlen(int Index) {
+    mOptDateiAuswaehlen(Index);
+}
+
+void cAdminJob::mofrmEigenschaften_evMitFremdformat() {
+    withErrorExit(QStringLiteral("mofrmEigenschaften_evMitFremdformat"), kKlasse, 0,
+                  [this](ErrorExit&) {
+                      mChangeMitFremdformat();
+                      mEigenschaftenGeaendert();
+                      return 0;
+                  });
+}
+
+void cAdminJob::mZeitplanDerZeileBearbeiten() {
+    ErrorExit ex(QStringLiteral("mZeitplanDerZeileBearbeiten"), kKlasse);
+    try {
+        if (!mofrmEigenschaften) {
+            return;
+        }
+        IGrid& grid = mofrmEigenschaften->grdZeitplan();
+        const int lRow = grid.Row();
+        if (lRow >= 1) {
+            mShowFRMZeitplanEigenschaften(grid.TextMatrix(lRow, ZeitplanSpalte::Id).toLong(),
+                                          grid.TextMatrix(lRow, ZeitplanSpalte::Name));
+        }
+    } catch (...) {
+        ex.fail();
+    }
+}
+
+void cAdminJob::mPaketeCMDClick(int Index) {
+    ErrorExit ex(QStringLiteral("mPaketeCMDClick"), kKlasse);
+    try {
+        if (Index < 0 || Index >= Cmd::Anzahl || !mofrmEigenschaften) {
+            return;
+        }
+        // Every button but copying counts as a change, even Cancel.
+        if (Index != Cmd::ZeitplanKopieren) {
+            mEigenschaftenGeaendert();
+        }
+        switch (Index) {
+            case Cmd::Ok:
+                mEigenschaftenSchliessen(false);
+                break;
+            case Cmd::Abbrechen:
+                mEigenschaftenSchliessen(true);
+                break;
+            case Cmd::Importverzeichnis:
+                mShowFileSystemPfad(3);
+                break;
+            case Cmd::ZeitplanNeu:
+                mShowFRMZeitplanEigenschaften(0, QString());
+                break;
+            case Cmd::ZeitplanBearbeiten:
+                mZeitplanDerZeileBearbeiten();
+                break;
+            case Cmd::ZeitplanLoeschen:
+                mLoescheZeitplan();
+                break;
+            case Cmd::Backupverzeichnis:
+                mShowFileSystemPfad(1);
+                break;
+            case Cmd::Uebernehmen:
+                if (mbCheckEigenschaften()) {
+                    mEigenschaftenSpeichern(true);
+                    mMenuStatus();
+                }
+                break;
+            case Cmd::Logverzeichnis:
+                mShowFileSystemPfad(4);
+                break;
+            case Cmd::ZeitplanKopieren: {
+                IGrid& grid = mofrmEigenschaften->grdZeitplan();
+                const int lRow = grid.Row();
+                if (lRow >= 1) {
+                    mShowZeitPlanKopieren(grid.TextMatrix(lRow, ZeitplanSpalte::Id).toLong(),
+                                          grid.TextMatrix(lRow, ZeitplanSpalte::Name));
+                }
+                break;
+            }
+            case Cmd::Mappingdatei:
+                mMappingDateiAuswaehlen();
+                break;
+            default:
+                break;
+        }
+    } catch (...) {
+        ex.fail();
+    }
+}
+
+// The schedule dialog and the copying of schedules act once they are written.
+void cAdminJob::mShowFRMZeitplanEigenschaften(long, const QString&) {}
+
+void cAdminJob::mShowZeitPlanKopieren(long, const QString&) {}

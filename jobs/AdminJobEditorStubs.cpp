@@ -1,4 +1,0 @@
-// The buttons of the job editor. They act once the editor lands.
-#include "app/cAdminJob.h"
-
-void cAdminJob::mPaketeCMDClick(int) {}

@@ -1,0 +1,78 @@
+#include "ui/windows/frmOptTextDateien.h"
+
+namespace {
+
+ControlDecl control(const char* name, int index, ControlKind kind, const char* caption = "",
+                    const char* hint = "") {
+    ControlDecl c;
+    c.name = QString::fromUtf8(name);
+    c.index = index;
+    c.kind = kind;
+    c.caption = QString::fromUtf8(caption);
+    c.hint = QString::fromUtf8(hint);
+    return c;
+}
+
+WindowDecl makeDeclaration() {
+    WindowDecl d;
+    d.name = QStringLiteral("frmOptTextDateien");
+    d.caption = QStringLiteral("Textdateien auswählen");
+    d.width = 560;
+    d.height = 320;
+    d.controls << control("grdFileNames", -1, ControlKind::Grid)
+               << control("ctlOptTextDatei", 0, ControlKind::Button, "", "Auswahl Datenpfad...")
+               << control("ctlOptTextDatei", 1, ControlKind::Button, "...",
+                          "Dateinamen beginnt mit")
+               << control("cmdOk", -1, ControlKind::Button, "OK")
+               << control("cmdAbbrechen", -1, ControlKind::Button, "Abbrechen")
+               << control("ctlCommonDialog", -1, ControlKind::FileDialog);
+    return d;
+}
+
+bool is(const ControlEvent& e, const char* name) {
+    return e.control.compare(QLatin1String(name), Qt::CaseInsensitive) == 0;
+}
+
+}  // namespace
+
+const WindowDecl& frmOptTextDateien::declaration() {
+    static const WindowDecl decl = makeDeclaration();
+    return decl;
+}
+
+frmOptTextDateien::frmOptTextDateien(std::unique_ptr<IWindow> w) : WindowContract(std::move(w)) {
+    WindowEvents events;
+    events.onControl = [this](const ControlEvent& e) { onControl(e); };
+    window().setEvents(std::move(events));
+}
+
+void frmOptTextDateien::onControl(const ControlEvent& e) {
+    if (e.type == EventType::Click && is(e, "ctlOptTextDatei")) {
+        choose(e.index);
+    } else if (e.type == EventType::DblClick && is(e, "grdFileNames")) {
+        choose(0);
+    } else if (e.type == EventType::Click && is(e, "cmdOk")) {
+        const std::weak_ptr<int> alive = life_;
+        if (auto handler = evTextDateienUebernehmen) {
+            handler();
+        }
+        if (!alive.expired()) {
+            close();
+        }
+    } else if (e.type == EventType::Click && is(e, "cmdAbbrechen")) {
+        close();
+    }
+}
+
+// Only a data row has a file to choose; the heading row has none.
+void frmOptTextDateien::choose(int index) {
+    const int row = grdFileNames().Row();
+    if (row > 0 && evTextDateiAuswaehlen) {
+        auto handler = evTextDateiAuswaehlen;
+        handler(row, index);
+    }
+}
+
+void frmOptTextDateien::close() {
+    window().Unload();
+}
