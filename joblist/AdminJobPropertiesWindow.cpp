@@ -94,8 +94,9 @@ void cAdminJob::mShowFRMPakete(long lJobId, const QString& sName) {
         form.tbrMain().setToolEnabled(kBand, PropertiesTool::Save, false);
         form.tabControl().setTabEnabled(kTabZeitplaene, lJobId >= 1);
 
-        msTextDateien.clear();
-        mlMandantId = 0;
+        // The dealer data's remembered directory and key belong to the job on show.
+        msNivoraTempPfad.clear();
+        mlNivoraDaten = 0;
 
         mShowJobEigenschaften();
         mInitGridZeitplan();

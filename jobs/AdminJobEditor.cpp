@@ -249,7 +249,10 @@ void cAdminJob::mEigenschaftenSpeichern(bool bUebernehmen) {
         frmEigenschaften& form = *mofrmEigenschaften;
         JobRecord rec;
         rec.lJobId = mlJobId;
-        rec.bytDatenArt = alsByte(form.cboComboBox(kCboAuftragsart).Key());
+        // A type that stands in no list (an old dealer data job) leaves the combo without a
+        // selection; the job keeps the type it was shown with.
+        const long lTypKey = form.cboComboBox(kCboAuftragsart).Key();
+        rec.bytDatenArt = lTypKey < 0 ? mbytDatenArt : alsByte(lTypKey);
         rec.sName = form.txtTextBox(0).Text();
         rec.sBeschreibung = form.txtTextBox(2).Text();
         rec.bytAktiviert = alsByte(form.chkCheckBox(0).Value());
