@@ -8,27 +8,11 @@
 #include "common/ErrObject.h"
 #include "common/ErrorExit.h"
 #include "schedule/ScheduleDefaults.h"
+#include "schedule/ScheduleRow.h"
 #include "schedule/ScheduleTime.h"
 #include "ui/Controls.h"
 
-namespace {
-
-std::int32_t alsLong32(long lWert) {
-    if (lWert < std::numeric_limits<std::int32_t>::min() ||
-        lWert > std::numeric_limits<std::int32_t>::max()) {
-        throw RaisedError(ErrNumber::Overflow, QStringLiteral("Überlauf"));
-    }
-    return static_cast<std::int32_t>(lWert);
-}
-
-std::uint8_t alsByte(long lWert) {
-    if (lWert < 0 || lWert > std::numeric_limits<std::uint8_t>::max()) {
-        throw RaisedError(ErrNumber::Overflow, QStringLiteral("Überlauf"));
-    }
-    return static_cast<std::uint8_t>(lWert);
-}
-
-}  // namespace
+namespace {}  // namespace
 
 QString cAdminJob::msGetTimeString(const QString& sZeit) {
     return withErrorExit(QStringLiteral("msGetTimeString"), kKlasse, QString(),
@@ -47,20 +31,7 @@ void cAdminJob::mSetzeScheduleObjektAusDB(std::int32_t lScheduleId) {
         if (oTL->OpenQuery(sSql, 2) >= 1) {
             // Read into a copy, so that a failing field leaves the record as it was.
             cSchedule o = required(moSchedule);
-            o.plFrequencyType = alsLong32(oTL->ReadLong(QStringLiteral("FreqencyType")));
-            o.plFrequencySubDay = alsLong32(oTL->ReadLong(QStringLiteral("FrequencySubDay")));
-            o.plFrequencyIntervall = alsLong32(oTL->ReadLong(QStringLiteral("FrequencyInterval")));
-            o.plFrequencyRecurreFactor =
-                alsLong32(oTL->ReadLong(QStringLiteral("FrequencyRecurrenceFactor")));
-            o.plFrequencyRelativeIntervall =
-                alsLong32(oTL->ReadLong(QStringLiteral("FrequencyRelativeInterval")));
-            o.pvActiveStartTimeOfDay =
-                alsLong32(oTL->ReadLong(QStringLiteral("ActiveStartTimeOfDay")));
-            o.plFrequencySubDayIntervall =
-                alsLong32(oTL->ReadLong(QStringLiteral("FrequencySubDayinterval")));
-            o.pdtActiveStartDate = oTL->ReadDate(QStringLiteral("ActiveStartDate"));
-            o.pvActiveEndTimeOfDay = alsLong32(oTL->ReadLong(QStringLiteral("ActiveEndTimeOfDay")));
-            o.pdtActiveEndDate = oTL->ReadDate(QStringLiteral("ActiveEndDate"));
+            leseZeitplanWiederholung(*oTL, o);
             o.pbyAktiviert = alsByte(oTL->ReadLong(QStringLiteral("Aktiviert")));
             *moSchedule = std::move(o);
         }

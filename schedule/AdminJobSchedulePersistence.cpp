@@ -8,6 +8,7 @@
 #include "app/cProperties.h"
 #include "common/ErrObject.h"
 #include "common/ErrorExit.h"
+#include "schedule/ScheduleRow.h"
 #include "schedule/ScheduleTime.h"
 
 namespace {
@@ -17,21 +18,6 @@ const QString kTabelle = QStringLiteral("tAutoJobSchedule");
 QString abfrage(const QString& sSchluessel, long lId) {
     return QStringLiteral(" select * from ") + kTabelle + QStringLiteral(" where ") + sSchluessel +
            QStringLiteral(" = ") + QString::number(lId);
-}
-
-std::int32_t alsLong32(long lWert) {
-    if (lWert < std::numeric_limits<std::int32_t>::min() ||
-        lWert > std::numeric_limits<std::int32_t>::max()) {
-        throw RaisedError(ErrNumber::Overflow, QStringLiteral("Überlauf"));
-    }
-    return static_cast<std::int32_t>(lWert);
-}
-
-std::uint8_t alsByte(long lWert) {
-    if (lWert < 0 || lWert > std::numeric_limits<std::uint8_t>::max()) {
-        throw RaisedError(ErrNumber::Overflow, QStringLiteral("Überlauf"));
-    }
-    return static_cast<std::uint8_t>(lWert);
 }
 
 // A date as the whole number of days since 1899-12-30, rounded as the server rounds a date
@@ -101,20 +87,7 @@ void cAdminJob::mZeitplanEinfuegen(long lJobIdNeu) {
             oTL->ReadLong(QStringLiteral("idAutoJobSchedule"));
             o.pbyAktiviert = alsByte(oTL->ReadLong(QStringLiteral("Aktiviert")));
             o.psName = oTL->ReadText(QStringLiteral("Name"));
-            o.plFrequencyType = alsLong32(oTL->ReadLong(QStringLiteral("FreqencyType")));
-            o.plFrequencySubDay = alsLong32(oTL->ReadLong(QStringLiteral("FrequencySubDay")));
-            o.plFrequencyIntervall = alsLong32(oTL->ReadLong(QStringLiteral("FrequencyInterval")));
-            o.plFrequencyRecurreFactor =
-                alsLong32(oTL->ReadLong(QStringLiteral("FrequencyRecurrenceFactor")));
-            o.plFrequencyRelativeIntervall =
-                alsLong32(oTL->ReadLong(QStringLiteral("FrequencyRelativeInterval")));
-            o.pvActiveStartTimeOfDay =
-                alsLong32(oTL->ReadLong(QStringLiteral("ActiveStartTimeOfDay")));
-            o.plFrequencySubDayIntervall =
-                alsLong32(oTL->ReadLong(QStringLiteral("FrequencySubDayinterval")));
-            o.pdtActiveStartDate = oTL->ReadDate(QStringLiteral("ActiveStartDate"));
-            o.pvActiveEndTimeOfDay = alsLong32(oTL->ReadLong(QStringLiteral("ActiveEndTimeOfDay")));
-            o.pdtActiveEndDate = oTL->ReadDate(QStringLiteral("ActiveEndDate"));
+            leseZeitplanWiederholung(*oTL, o);
             long lNeu = -1;
             mZeitplanSpeichern(lNeu, lJobIdNeu, o);
             oTL->Move(CRecordset::MoveNext);
