@@ -7,6 +7,7 @@
 #include "common/ErrorExit.h"
 #include "ui/windows/frmEigenschaften.h"
 #include "ui/windows/frmPakete.h"
+#include "ui/windows/frmZeitplan.h"
 
 namespace {
 

@@ -16,12 +16,14 @@
 #include "common/OptionFileReader.h"
 #include "jobs/JobRecord.h"
 #include "schedule/cSchedule.h"
+#include "ui/windows/frmZeitIntervall.h"
 
 class cProperties;
 class frmEigenschaften;
 class frmOptTextDatName;
 class frmOptTextDateien;
 class frmPakete;
+class frmZeitplan;
 class IBrowser;
 class IComboBox;
 class ITool;
@@ -360,15 +362,74 @@ class cAdminJob {
     std::shared_ptr<frmOptTextDateien> moFrmTextDateien;
     std::shared_ptr<frmOptTextDatName> moFrmTextDateiNamen;
 
+    // ---- Schedule dialog (schedule/AdminJobScheduleDialog*.cpp) -------------------------
+
+    friend class ScheduleDialogTestAccess;
+
+    // Fills the dialog for the schedule lZeitplanId (0 for a new one).
+    void mShowZeitplanEigenschaften(long lZeitplanId);
+    void mDisableControlsZeitplanEigenschaften();
+    void mDisableControls();
+    void mofrmZeitplanEigenschaften_evFRMZeitplanOptOptionClicked(int Index);
+    void mofrmZeitplanEigenschaften_evFrmZeitplanCommandButtonClicked(int Index);
+    void mofrmZeitplanEigenschaften_evFRMZeitplanHilfe();
+    // The message of the first failed check, or "".
+    QString msCheckValuesFRMZeitplan();
+    // A time box's text "hh:mm:ss" with "_" in empty places; loose by intent: 29:30 passes.
+    bool mbCheckValidTime(QString& sZeit);
+    void mZeitplanEigenschaftenUebernehmen();
+    // The help topic of the schedules.
+    void mHilfeAbruf();
+    // The rows of the editor's schedule grid, header row included; 1 without a grid.
+    long mlZeilenGrdZeitplan();
+    // (owner: recurrence dialog)
+    void mEditZeitintervall();
+
+    // True while the dialog is being filled: the option events then leave the focus alone.
+    bool mbLadeZeitplan = false;
+
+    // ---- Recurrence dialog (schedule/AdminJobRecurrence*.cpp) --------------------------
+
+    friend class RecurrenceTestAccess;
+
+    // mEditZeitintervall, the entry from "Ändern...", is declared with the schedule dialog.
+    void mFuelleFrmZeitintervall();
+    // The message of the first failed check, "" when all pass.
+    QString msCheckValuesFRMZeitintervall();
+    void mSpeichernZeitintervall();
+    bool mbCheckWochentag();
+    std::int32_t mlGetWochentage();
+    void mSetzeWochentage(std::int32_t lWochentage);
+    long mlCBOKey(int Index);
+    void mInitCBO_Nummer(int& Index, long& lAnzahl, long lKey);
+    void mInitCBO_Wochentag(int Index, long lKey);
+    void mInitCBO_First(int Index, long lKey);
+    void mInitCBO_MinuteStunde(int Index, long lKey);
+    void mEnableHaeufigkeitProTag_Einmalig(bool bEnable);
+    void mEnableMonatlichAm(bool bEnable);
+    void mShowFrameZeitIntervall(int Index);
+    // Refills a number combo with 1 to lAnzahl and selects lKey (-1: none).
+    void mNummern(int Index, long lAnzahl, long lKey);
+    void mZeitintervallVerbinden();
+
+    void mofrmzeitIntervall_evFrmZeitintervallCommandButtonClicked(int Index);
+    void mofrmzeitIntervall_evFrmZeitintervallOptionHaeufigkeitClicked(int Index);
+    void mofrmzeitIntervall_evFrmZeitintervallOptionMonatlichClicked(int Index);
+    void mofrmzeitIntervall_evFrmZeitintervallOptionEnddatumClicked(int Index);
+    void mofrmzeitIntervall_evFrmZeitintervallComboboxClicked(int Index);
+    void mofrmzeitIntervall_evFRMZeitplanHilfe();
+
+    // True while the dialog is being filled: no focus moves, no combo reactions.
+    bool mbLadeZeitintervall = false;
+
     // ---- Windows: each empty until it exists --------------------------------------------
 
     std::shared_ptr<frmPakete> moFrmPakete;
     std::shared_ptr<IBrowser> moPakete;
     std::shared_ptr<frmEigenschaften> mofrmEigenschaften;
-    // The schedule dialogs, held by their common base until their own contracts take the
-    // place.
-    std::shared_ptr<WindowContract> mofrmzeitIntervall;
-    std::shared_ptr<WindowContract> mofrmZeitplanEigenschaften;
+    // The recurrence dialog, held by the common base until its own contract takes the place.
+    std::shared_ptr<frmZeitIntervall> mofrmzeitIntervall;
+    std::shared_ptr<frmZeitplan> mofrmZeitplanEigenschaften;
 
     // Cuts every event the windows still hold to this controller when it goes away.
     LifeToken mLeben;

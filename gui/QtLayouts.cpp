@@ -4,6 +4,8 @@
 
 #include "gui/LayoutFrmEigenschaften.h"
 #include "gui/LayoutFrmPakete.h"
+#include "gui/LayoutFrmZeitIntervall.h"
+#include "gui/LayoutFrmZeitplan.h"
 
 namespace {
 
@@ -11,6 +13,8 @@ QHash<QString, QtLayout>& registered() {
     static QHash<QString, QtLayout> layouts{
         {QStringLiteral("frmpakete"), &layoutFrmPakete},
         {QStringLiteral("frmeigenschaften"), &layoutFrmEigenschaften},
+        {QStringLiteral("frmzeitintervall"), &layoutFrmZeitIntervall},
+        {QStringLiteral("frmzeitplan"), &layoutFrmZeitplan},
     };
     return layouts;
 }

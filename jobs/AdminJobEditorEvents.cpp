@@ -190,7 +190,5 @@ void cAdminJob::mPaketeCMDClick(int Index) {
     }
 }
 
-// The schedule dialog and the copying of schedules act once they are written.
-void cAdminJob::mShowFRMZeitplanEigenschaften(long, const QString&) {}
-
+// The copying of schedules acts once it is written.
 void cAdminJob::mShowZeitPlanKopieren(long, const QString&) {}

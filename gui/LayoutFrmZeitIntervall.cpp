@@ -1,0 +1,166 @@
+#include "gui/LayoutFrmZeitIntervall.h"
+
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+
+#include "gui/QtWindow.h"
+
+namespace {
+
+class RecurrenceLayout {
+  public:
+    explicit RecurrenceLayout(QtWindow& window) : window_(window) {}
+
+    void run() {
+        auto* column = new QVBoxLayout(window_.widget());
+        column->setContentsMargins(10, 10, 10, 10);
+
+        auto* top = new QGridLayout;
+        optionColumn();
+        put(top, frame(0), 0, 0);
+        // The three frames of the frequencies lie in one cell; the controller shows one.
+        for (int index : {1, 5, 2}) {
+            put(top, frame(index), 0, 1);
+        }
+        daily();
+        weekly();
+        monthly();
+        top->setColumnStretch(1, 1);
+        column->addLayout(top);
+
+        perDay();
+        column->addWidget(frame(3));
+        duration();
+        column->addWidget(frame(4));
+        column->addStretch(1);
+
+        auto* bottom = new QHBoxLayout;
+        addTo(bottom, widget("lblLabel", 6), 1);
+        addTo(bottom, widget("cmdCommandButton", 0));
+        addTo(bottom, widget("cmdCommandButton", 1));
+        column->addLayout(bottom);
+    }
+
+  private:
+    QWidget* widget(const char* name, int index) const {
+        QtControlView* v = window_.view(QString::fromUtf8(name), index);
+        return v ? v->widget() : nullptr;
+    }
+    // The caption of a combo box, as the kit puts it beside the box.
+    QWidget* caption(int combo) const {
+        QtControlView* v = window_.view(QStringLiteral("cboComboBox"), combo);
+        return v ? v->captionLabel() : nullptr;
+    }
+    QWidget* frame(int index) const { return widget("fraFrame", index); }
+    QWidget* inside(int index) const {
+        QtControlView* v = window_.view(QStringLiteral("fraFrame"), index);
+        return v ? v->area(-1) : nullptr;
+    }
+    static void put(QGridLayout* grid, QWidget* w, int row, int col, int span = 1) {
+        if (w) {
+            grid->addWidget(w, row, col, 1, span);
+        }
+    }
+    static void addTo(QBoxLayout* layout, QWidget* w, int stretch = 0) {
+        if (w) {
+            layout->addWidget(w, stretch);
+        }
+    }
+    // One row: a combo's caption, the combo, and what follows it.
+    void comboRow(QGridLayout* grid, int row, int col, int combo) {
+        put(grid, caption(combo), row, col);
+        put(grid, widget("cboComboBox", combo), row, col + 1);
+    }
+
+    void optionColumn() {
+        if (QWidget* area = inside(0)) {
+            auto* options = new QVBoxLayout(area);
+            for (int index : {0, 1, 2}) {
+                addTo(options, widget("optHaeufigkeit", index));
+            }
+            options->addStretch(1);
+        }
+    }
+
+    void daily() {
+        if (QWidget* area = inside(1)) {
+            auto* grid = new QGridLayout(area);
+            comboRow(grid, 0, 0, 0);
+            put(grid, widget("lblLabel", 0), 0, 2);
+            grid->setRowStretch(1, 1);
+            grid->setColumnStretch(3, 1);
+        }
+    }
+
+    void weekly() {
+        if (QWidget* area = inside(5)) {
+            auto* grid = new QGridLayout(area);
+            comboRow(grid, 0, 0, 8);
+            put(grid, widget("lblLabel", 3), 0, 2, 2);
+            auto* days = new QHBoxLayout;
+            for (int index = 0; index < 7; ++index) {
+                addTo(days, widget("chkCheckBox", index));
+            }
+            grid->addLayout(days, 1, 0, 1, 5);
+            grid->setRowStretch(2, 1);
+            grid->setColumnStretch(4, 1);
+        }
+    }
+
+    void monthly() {
+        if (QWidget* area = inside(2)) {
+            auto* grid = new QGridLayout(area);
+            put(grid, widget("optMonatlich", 0), 0, 0);
+            comboRow(grid, 0, 1, 1);
+            comboRow(grid, 0, 3, 2);
+            put(grid, widget("lblLabel", 1), 0, 5);
+            put(grid, widget("optMonatlich", 1), 1, 0);
+            comboRow(grid, 1, 1, 3);
+            put(grid, widget("cboComboBox", 4), 1, 3, 2);
+            comboRow(grid, 2, 3, 5);
+            put(grid, widget("lblLabel", 2), 2, 5);
+            grid->setRowStretch(3, 1);
+            grid->setColumnStretch(6, 1);
+        }
+    }
+
+    void perDay() {
+        if (QWidget* area = inside(3)) {
+            auto* grid = new QGridLayout(area);
+            put(grid, widget("optHaeufigkeit", 3), 0, 0);
+            put(grid, widget("ctlMaskEdBox", 0), 0, 1);
+            put(grid, widget("optHaeufigkeit", 4), 1, 0);
+            comboRow(grid, 1, 1, 6);
+            put(grid, widget("cboComboBox", 7), 1, 3);
+            put(grid, widget("lblLabel", 4), 2, 1);
+            put(grid, widget("ctlMaskEdBox", 1), 2, 2);
+            put(grid, widget("lblLabel", 5), 3, 1);
+            put(grid, widget("ctlMaskEdBox", 2), 3, 2);
+            grid->setColumnStretch(4, 1);
+        }
+    }
+
+    void duration() {
+        if (QWidget* area = inside(4)) {
+            auto* grid = new QGridLayout(area);
+            QtControlView* start = window_.view(QStringLiteral("ctlDatePicker"), 0);
+            if (start) {
+                put(grid, start->captionLabel(), 0, 0);
+                put(grid, start->widget(), 0, 1);
+            }
+            put(grid, widget("optEnddatum", 0), 0, 2);
+            put(grid, widget("ctlDatePicker", 1), 0, 3);
+            put(grid, widget("optEnddatum", 1), 1, 2);
+            grid->setColumnStretch(4, 1);
+        }
+    }
+
+    QtWindow& window_;
+};
+
+}  // namespace
+
+void layoutFrmZeitIntervall(QtWindow& window) {
+    RecurrenceLayout(window).run();
+}

@@ -1,0 +1,104 @@
+#include <gtest/gtest.h>
+#include <QAbstractButton>
+#include <QGroupBox>
+#include <QLabel>
+#include <QTest>
+
+#include "QtTestKit.h"
+#include "ui/windows/frmZeitIntervall.h"
+
+using namespace qt_test;
+
+namespace {
+
+// The recurrence dialog on Qt widgets with the events it raises kept as text.
+struct QtDialog {
+    QtDialog() {
+        auto w = factory.create(frmZeitIntervall::declaration());
+        qt = dynamic_cast<QtWindow*>(w.get());
+        form = std::make_unique<frmZeitIntervall>(std::move(w));
+        form->evFrmZeitintervallCommandButtonClicked = [this](int i) {
+            events << QStringLiteral("Button %1").arg(i);
+        };
+        form->evFrmZeitintervallOptionHaeufigkeitClicked = [this](int i) {
+            events << QStringLiteral("Haeufigkeit %1").arg(i);
+        };
+        form->evFrmZeitintervallOptionEnddatumClicked = [this](int i) {
+            events << QStringLiteral("Enddatum %1").arg(i);
+        };
+        form->window().Show(false);
+        EXPECT_TRUE(QTest::qWaitForWindowExposed(qt->widget()));
+    }
+    QWidget* widget(const char* name, int index = -1) {
+        QtControlView* v = qt->view(QString::fromUtf8(name), index);
+        return v ? v->widget() : nullptr;
+    }
+
+    QtWindowFactory factory;
+    QtWindow* qt = nullptr;
+    std::unique_ptr<frmZeitIntervall> form;
+    QStringList events;
+};
+
+QString shownText(QWidget* w) {
+    if (auto* button = qobject_cast<QAbstractButton*>(w)) {
+        return button->text();
+    }
+    if (auto* box = qobject_cast<QGroupBox*>(w)) {
+        return box->title();
+    }
+    if (auto* label = qobject_cast<QLabel*>(w)) {
+        return label->text();
+    }
+    return {};
+}
+
+TEST(QtFrmZeitIntervall, EveryControlHasItsWidgetAndCaption) {
+    QtDialog d;
+    EXPECT_EQ(d.qt->widget()->windowTitle(), "Zeitplan für wiederkehrende Aufträge bearbeiten");
+    for (const ControlDecl& c : frmZeitIntervall::declaration().controls) {
+        SCOPED_TRACE(QStringLiteral("%1(%2)").arg(c.name).arg(c.index).toStdString());
+        QtControlView* view = d.qt->view(c.name, c.index);
+        ASSERT_NE(view, nullptr);
+        ASSERT_NE(view->widget(), nullptr);
+        if (c.caption.isEmpty()) {
+            continue;
+        }
+        if (QLabel* caption = view->captionLabel()) {
+            EXPECT_EQ(caption->text(), c.caption);
+        } else {
+            EXPECT_EQ(shownText(view->widget()), c.caption);
+        }
+    }
+}
+
+TEST(QtFrmZeitIntervall, OnlyTheChosenFrequencyFrameShowsInTheSharedPlace) {
+    QtDialog d;
+    for (int shown : {1, 5, 2}) {
+        for (int index : {1, 5, 2}) {
+            d.form->fraFrame(index).setVisible(index == shown);
+        }
+        QTest::qWait(20);
+        EXPECT_TRUE(d.widget("fraFrame", shown)->isVisible());
+        for (int index : {1, 5, 2}) {
+            if (index != shown) {
+                EXPECT_FALSE(d.widget("fraFrame", index)->isVisible());
+                EXPECT_EQ(d.widget("fraFrame", index)->geometry().topLeft(),
+                          d.widget("fraFrame", shown)->geometry().topLeft());
+            }
+        }
+    }
+}
+
+TEST(QtFrmZeitIntervall, ClicksRaiseTheWindowsEvents) {
+    QtDialog d;
+    QTest::mouseClick(d.widget("optHaeufigkeit", 0), Qt::LeftButton);
+    QTest::mouseClick(d.widget("optHaeufigkeit", 4), Qt::LeftButton);
+    QTest::mouseClick(d.widget("optEnddatum", 1), Qt::LeftButton);
+    QTest::mouseClick(d.widget("cmdCommandButton", 0), Qt::LeftButton);
+    EXPECT_EQ(d.events, (QStringList{"Haeufigkeit 0", "Haeufigkeit 4", "Enddatum 1", "Button 0"}));
+    EXPECT_TRUE(d.form->optHaeufigkeit(0).Value());
+    EXPECT_TRUE(d.form->optHaeufigkeit(4).Value());
+}
+
+}  // namespace
