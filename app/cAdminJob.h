@@ -260,7 +260,7 @@ class cAdminJob {
     void mofrmEigenschaften_evOptDateiAuswaehlen(int Index);
     void mofrmEigenschaften_evMitFremdformat();
 
-    // The schedule dialog and the copying of schedules; they act once written.
+    // The schedule dialog; the copying of schedules acts once its window is written.
     void mShowFRMZeitplanEigenschaften(long lZeitplanId, const QString& sName);
     void mShowZeitPlanKopieren(long lZeitplanId, const QString& sName);
 
@@ -427,7 +427,6 @@ class cAdminJob {
     std::shared_ptr<frmPakete> moFrmPakete;
     std::shared_ptr<IBrowser> moPakete;
     std::shared_ptr<frmEigenschaften> mofrmEigenschaften;
-    // The recurrence dialog, held by the common base until its own contract takes the place.
     std::shared_ptr<frmZeitIntervall> mofrmzeitIntervall;
     std::shared_ptr<frmZeitplan> mofrmZeitplanEigenschaften;
 
