@@ -1,9 +1,54 @@
 #include "QtTestKit.h"
 
 #include <gtest/gtest.h>
+
+#include <QAbstractButton>
+#include <QGroupBox>
+#include <QLabel>
 #include <QTest>
 
 namespace qt_test {
+
+namespace {
+
+QString shownText(QWidget* w) {
+    if (auto* button = qobject_cast<QAbstractButton*>(w)) {
+        return button->text();
+    }
+    if (auto* box = qobject_cast<QGroupBox*>(w)) {
+        return box->title();
+    }
+    if (auto* label = qobject_cast<QLabel*>(w)) {
+        return label->text();
+    }
+    return {};
+}
+
+}  // namespace
+
+void expectDeclaredControlsShown(QtWindow& qt, const WindowDecl& decl, bool checkHints) {
+    for (const ControlDecl& d : decl.controls) {
+        SCOPED_TRACE(QStringLiteral("%1(%2)").arg(d.name).arg(d.index).toStdString());
+        QtControlView* view = qt.view(d.name, d.index);
+        ASSERT_NE(view, nullptr);
+        if (d.kind == ControlKind::Timer || d.kind == ControlKind::FileDialog ||
+            d.kind == ControlKind::DirDialog) {
+            continue;
+        }
+        ASSERT_NE(view->widget(), nullptr);
+        if (checkHints) {
+            EXPECT_EQ(view->widget()->toolTip(), d.hint);
+        }
+        if (d.caption.isEmpty()) {
+            continue;
+        }
+        if (QLabel* caption = view->captionLabel()) {
+            EXPECT_EQ(caption->text(), d.caption);
+        } else {
+            EXPECT_EQ(shownText(view->widget()), d.caption);
+        }
+    }
+}
 
 QString describe(const ControlEvent& e) {
     static const char* const names[] = {

@@ -36,6 +36,10 @@ inline ControlDecl decl(const char* name, ControlKind kind, int index = -1,
     return d;
 }
 
+// Every declared control that has a widget shows under its name with its caption (beside it
+// or on it) and, when checkHints is set, its hint as tool tip.
+void expectDeclaredControlsShown(QtWindow& qt, const WindowDecl& decl, bool checkHints);
+
 // "Click cmd(0)", "KeyDown txt 13/0", "AfterEdit grd 1,1", "ToolClick bar new",
 // "TabClick tab 0", "Open ctl 2", "Change txt".
 QString describe(const ControlEvent& e);

@@ -55,42 +55,10 @@ struct QtEditor {
     QStringList events;
 };
 
-QString shownText(QWidget* w) {
-    if (auto* button = qobject_cast<QAbstractButton*>(w)) {
-        return button->text();
-    }
-    if (auto* box = qobject_cast<QGroupBox*>(w)) {
-        return box->title();
-    }
-    if (auto* label = qobject_cast<QLabel*>(w)) {
-        return label->text();
-    }
-    return {};
-}
-
 TEST(QtFrmEigenschaften, EveryControlHasItsWidgetCaptionAndToolTip) {
     QtEditor e;
     EXPECT_EQ(e.qt->widget()->windowTitle(), "Paket bearbeiten");
-    for (const ControlDecl& d : frmEigenschaften::declaration().controls) {
-        SCOPED_TRACE(QStringLiteral("%1(%2)").arg(d.name).arg(d.index).toStdString());
-        QtControlView* view = e.qt->view(d.name, d.index);
-        ASSERT_NE(view, nullptr);
-        const bool hasWidget = d.kind != ControlKind::Timer && d.kind != ControlKind::FileDialog &&
-                               d.kind != ControlKind::DirDialog;
-        if (!hasWidget) {
-            continue;
-        }
-        ASSERT_NE(view->widget(), nullptr);
-        EXPECT_EQ(view->widget()->toolTip(), d.hint);
-        if (d.caption.isEmpty()) {
-            continue;
-        }
-        if (QLabel* caption = view->captionLabel()) {
-            EXPECT_EQ(caption->text(), d.caption);
-        } else {
-            EXPECT_EQ(shownText(view->widget()), d.caption);
-        }
-    }
+    qt_test::expectDeclaredControlsShown(*e.qt, frmEigenschaften::declaration(), true);
     auto* tabs = qobject_cast<QTabWidget*>(e.widget("tabControl"));
     ASSERT_NE(tabs, nullptr);
     EXPECT_EQ(tabs->tabText(0), "Allgemein");

@@ -40,36 +40,10 @@ struct QtDialog {
     QStringList events;
 };
 
-QString shownText(QWidget* w) {
-    if (auto* button = qobject_cast<QAbstractButton*>(w)) {
-        return button->text();
-    }
-    if (auto* box = qobject_cast<QGroupBox*>(w)) {
-        return box->title();
-    }
-    if (auto* label = qobject_cast<QLabel*>(w)) {
-        return label->text();
-    }
-    return {};
-}
-
 TEST(QtFrmZeitIntervall, EveryControlHasItsWidgetAndCaption) {
     QtDialog d;
     EXPECT_EQ(d.qt->widget()->windowTitle(), "Zeitplan für wiederkehrende Aufträge bearbeiten");
-    for (const ControlDecl& c : frmZeitIntervall::declaration().controls) {
-        SCOPED_TRACE(QStringLiteral("%1(%2)").arg(c.name).arg(c.index).toStdString());
-        QtControlView* view = d.qt->view(c.name, c.index);
-        ASSERT_NE(view, nullptr);
-        ASSERT_NE(view->widget(), nullptr);
-        if (c.caption.isEmpty()) {
-            continue;
-        }
-        if (QLabel* caption = view->captionLabel()) {
-            EXPECT_EQ(caption->text(), c.caption);
-        } else {
-            EXPECT_EQ(shownText(view->widget()), c.caption);
-        }
-    }
+    qt_test::expectDeclaredControlsShown(*d.qt, frmZeitIntervall::declaration(), false);
 }
 
 TEST(QtFrmZeitIntervall, OnlyTheChosenFrequencyFrameShowsInTheSharedPlace) {
