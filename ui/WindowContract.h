@@ -5,6 +5,26 @@
 #include "common/Host.h"
 #include "ui/Window.h"
 
+// What every window contract does with its controls' events.
+namespace contract {
+
+// Calls a copy of the handler, when one is set: the handler may destroy the window and its
+// contract.
+template <class Handler, class... Args>
+void fire(const Handler& handler, const Args&... args) {
+    if (handler) {
+        Handler call = handler;
+        call(args...);
+    }
+}
+
+// Whether the event comes from the control of that name.
+inline bool is(const ControlEvent& e, const char* name) {
+    return e.control.compare(QLatin1String(name), Qt::CaseInsensitive) == 0;
+}
+
+}  // namespace contract
+
 // The base of every window contract: owns the kit's window and gives typed access to its
 // controls. The contract of a window turns its controls' events into the window's events.
 class WindowContract : public HostObject {

@@ -3,6 +3,9 @@
 #include "common/ModuleHelpers.h"
 #include "common/Services.h"
 
+using contract::fire;
+using contract::is;
+
 namespace {
 
 const QString kBar = QStringLiteral("tbrMain");
@@ -182,19 +185,6 @@ class Declaration {
     QString container_;
     int page_ = -1;
 };
-
-// Calls a copy of the handler: the handler may destroy the window and its contract.
-template <class Handler, class... Args>
-void fire(const Handler& handler, const Args&... args) {
-    if (handler) {
-        Handler call = handler;
-        call(args...);
-    }
-}
-
-bool is(const ControlEvent& e, const char* name) {
-    return e.control.compare(QLatin1String(name), Qt::CaseInsensitive) == 0;
-}
 
 }  // namespace
 

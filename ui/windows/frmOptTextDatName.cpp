@@ -1,5 +1,7 @@
 #include "ui/windows/frmOptTextDatName.h"
 
+using contract::is;
+
 namespace {
 
 ControlDecl control(const char* name, ControlKind kind, const char* caption) {
@@ -21,10 +23,6 @@ WindowDecl makeDeclaration() {
                << control("cmdOk", ControlKind::Button, "OK")
                << control("cmdAbbrechen", ControlKind::Button, "Abbrechen");
     return d;
-}
-
-bool is(const ControlEvent& e, const char* name) {
-    return e.control.compare(QLatin1String(name), Qt::CaseInsensitive) == 0;
 }
 
 }  // namespace

@@ -1,5 +1,7 @@
 #include "ui/windows/frmOptTextDateien.h"
 
+using contract::is;
+
 namespace {
 
 ControlDecl control(const char* name, int index, ControlKind kind, const char* caption = "",
@@ -27,10 +29,6 @@ WindowDecl makeDeclaration() {
                << control("cmdAbbrechen", -1, ControlKind::Button, "Abbrechen")
                << control("ctlCommonDialog", -1, ControlKind::FileDialog);
     return d;
-}
-
-bool is(const ControlEvent& e, const char* name) {
-    return e.control.compare(QLatin1String(name), Qt::CaseInsensitive) == 0;
 }
 
 }  // namespace

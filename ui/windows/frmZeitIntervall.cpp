@@ -1,5 +1,8 @@
 #include "ui/windows/frmZeitIntervall.h"
 
+using contract::fire;
+using contract::is;
+
 namespace {
 
 constexpr int kAbbrechen = 1;
@@ -98,18 +101,6 @@ class Declaration {
     WindowDecl d_;
     QString container_;
 };
-
-template <class Handler, class... Args>
-void fire(const Handler& handler, const Args&... args) {
-    if (handler) {
-        Handler call = handler;  // the handler may destroy the window and its contract
-        call(args...);
-    }
-}
-
-bool is(const ControlEvent& e, const char* name) {
-    return e.control.compare(QLatin1String(name), Qt::CaseInsensitive) == 0;
-}
 
 }  // namespace
 

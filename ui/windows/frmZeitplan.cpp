@@ -1,5 +1,8 @@
 #include "ui/windows/frmZeitplan.h"
 
+using contract::fire;
+using contract::is;
+
 namespace {
 
 constexpr int kAbbrechen = 1;
@@ -52,19 +55,6 @@ class Declaration {
     WindowDecl d_;
     QString container_;
 };
-
-// Calls a copy of the handler: the handler may destroy the window and its contract.
-template <class Handler, class... Args>
-void fire(const Handler& handler, const Args&... args) {
-    if (handler) {
-        Handler call = handler;
-        call(args...);
-    }
-}
-
-bool is(const ControlEvent& e, const char* name) {
-    return e.control.compare(QLatin1String(name), Qt::CaseInsensitive) == 0;
-}
 
 }  // namespace
 
