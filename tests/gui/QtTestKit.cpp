@@ -50,38 +50,6 @@ void expectDeclaredControlsShown(QtWindow& qt, const WindowDecl& decl, bool chec
     }
 }
 
-QString describe(const ControlEvent& e) {
-    static const char* const names[] = {
-        "Click",     "DblClick",  "Change",           "KeyDown", "GotFocus", "LostFocus",
-        "AfterEdit", "ToolClick", "SelectionChanged", "Open",    "TabClick", "Timer"};
-    QString s = QString::fromLatin1(names[static_cast<int>(e.type)]) + QLatin1Char(' ') + e.control;
-    if (e.index >= 0) {
-        s += QStringLiteral("(%1)").arg(e.index);
-    }
-    switch (e.type) {
-        case EventType::KeyDown:
-            s += QStringLiteral(" %1/%2").arg(e.keyCode).arg(e.shift);
-            break;
-        case EventType::Click:
-        case EventType::DblClick:
-        case EventType::AfterEdit:
-            if (e.row || e.col) {
-                s += QStringLiteral(" %1,%2").arg(e.row).arg(e.col);
-            }
-            break;
-        case EventType::ToolClick:
-            s += QLatin1Char(' ') + e.tool;
-            break;
-        case EventType::TabClick:
-        case EventType::Open:
-            s += QStringLiteral(" %1").arg(e.row);
-            break;
-        default:
-            break;
-    }
-    return s;
-}
-
 long FakeRecordset::OpenQuery(const QString& sql, long) {
     if (log_) {
         *log_ << sql;

@@ -15,13 +15,7 @@
 #include "gui/QtWindow.h"
 #include "gui/QtWindowFactory.h"
 #include "headless/HeadlessKit.h"
-
-inline void PrintTo(const QString& text, std::ostream* os) {
-    *os << '"' << text.toStdString() << '"';
-}
-inline void PrintTo(const QStringList& list, std::ostream* os) {
-    *os << '[' << list.join(QStringLiteral(" | ")).toStdString() << ']';
-}
+#include "tests/headless/HeadlessTestKit.h"
 
 namespace qt_test {
 
@@ -40,9 +34,8 @@ inline ControlDecl decl(const char* name, ControlKind kind, int index = -1,
 // or on it) and, when checkHints is set, its hint as tool tip.
 void expectDeclaredControlsShown(QtWindow& qt, const WindowDecl& decl, bool checkHints);
 
-// "Click cmd(0)", "KeyDown txt 13/0", "AfterEdit grd 1,1", "ToolClick bar new",
-// "TabClick tab 0", "Open ctl 2", "Change txt".
-QString describe(const ControlEvent& e);
+// One line per event, as the in-memory kit's tests write them.
+using headless_test::describe;
 
 // A result set: its columns and rows.
 struct FakeTable {
