@@ -162,6 +162,12 @@ class QtControl : public Base, public QtControlView {
     // Called at the end of the most derived constructor: the widget the layout places, the
     // one that takes keys (nullptr for none) and the caption beside it.
     void attach(QWidget* widget, QWidget* keyTarget, QLabel* caption = nullptr) {
+        // Found by its name, as "txtTextBox(2)", by tests and accessibility tools.
+        if (widget && widget->objectName().isEmpty()) {
+            const ControlDecl& d = this->decl();
+            widget->setObjectName(d.index >= 0 ? QStringLiteral("%1(%2)").arg(d.name).arg(d.index)
+                                               : d.name);
+        }
         widget_ = widget;
         keyTarget_ = keyTarget;
         caption_ = caption;

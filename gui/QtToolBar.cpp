@@ -62,6 +62,7 @@ QtToolBar::QtToolBar(const ControlDecl& decl, HeadlessWindow& window, QWidget* p
         QWidget* holder = bar_;
         if (menus) {
             auto* button = new QToolButton(bar_);
+            button->setObjectName(band);
             button->setText(band);
             button->setPopupMode(QToolButton::InstantPopup);
             auto* menu = new QMenu(button);
@@ -71,6 +72,7 @@ QtToolBar::QtToolBar(const ControlDecl& decl, HeadlessWindow& window, QWidget* p
         }
         for (HeadlessTool* tool : bandTools(band)) {
             auto* action = new QAction(holder);
+            action->setObjectName(band + QLatin1Char('.') + tool->Name());
             holder->addAction(action);
             applyTool(*action, *tool);
             actionsOfTool_[tool] << action;

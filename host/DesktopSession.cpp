@@ -58,6 +58,9 @@ void DesktopSession::start() {
     applikation->IUIApplikation_Initialisieren(properties_.get(), list);
     if (auto pakete = applikation->listWindow()) {
         window_.setList(widgetOf(pakete->window()));
+        // From here on the component tells the host each change of its menu tools; the
+        // menus start as the list's tools stand now.
+        window_.followTools(pakete->barMenu());
     }
     notify(2);
 }

@@ -8,11 +8,6 @@
 
 namespace {
 
-// The log data items stand in the menus always on; the component never changes them.
-bool alwaysOn(const QString& tool) {
-    return tool.startsWith(QLatin1String("Logdaten "));
-}
-
 QString key(const QString& band, const QString& tool) {
     return band + QLatin1Char('/') + tool;
 }
@@ -24,6 +19,7 @@ HostMainWindow::HostMainWindow(const QString& title, const QList<ToolDecl>& menu
     resize(1000, 640);
 
     QMenu* file = menuBar()->addMenu(QStringLiteral("&Datei"));
+    file->setObjectName(QStringLiteral("menuDatei"));
     QAction* quit = file->addAction(QStringLiteral("&Beenden"));
     quit->setShortcut(QKeySequence::Quit);
     connect(quit, &QAction::triggered, this, &QWidget::close);
@@ -49,6 +45,7 @@ HostMainWindow::HostMainWindow(const QString& title, const QList<ToolDecl>& menu
 
 void HostMainWindow::addBandMenu(const QString& band, const QList<ToolDecl>& tools) {
     QMenu* menu = menuBar()->addMenu(QLatin1Char('&') + band);
+    menu->setObjectName(QStringLiteral("menu") + band);
     for (const ToolDecl& t : tools) {
         if (t.band != band) {
             continue;
@@ -59,7 +56,8 @@ void HostMainWindow::addBandMenu(const QString& band, const QList<ToolDecl>& too
         }
         QAction* action = menu->addAction(t.caption);
         action->setToolTip(t.hint);
-        action->setEnabled(alwaysOn(t.name));
+        action->setEnabled(false);
+        action->setObjectName(t.name);
         const QString tool = t.name;
         connect(action, &QAction::triggered, this, [this, tool] {
             if (onTool) {
@@ -77,8 +75,18 @@ void HostMainWindow::setList(QWidget* list) {
 }
 
 void HostMainWindow::setToolEnabled(const QString& band, const QString& tool, bool enabled) {
-    if (QAction* a = actions_.value(key(band, tool)); a && !alwaysOn(tool)) {
+    if (QAction* a = actions_.value(key(band, tool))) {
         a->setEnabled(enabled);
+    }
+}
+
+void HostMainWindow::followTools(IToolBar& bar) {
+    for (auto it = actions_.cbegin(); it != actions_.cend(); ++it) {
+        const QString band = it.key().section(QLatin1Char('/'), 0, 0);
+        const QString tool = it.key().section(QLatin1Char('/'), 1);
+        if (const ITool* t = bar.Tool(band, tool)) {
+            it.value()->setEnabled(t->Enabled());
+        }
     }
 }
 

@@ -4,6 +4,7 @@
 #include <QMap>
 #include <functional>
 
+#include "ui/ToolBar.h"
 #include "ui/Window.h"
 
 class QAction;
@@ -17,6 +18,8 @@ class HostMainWindow : public QMainWindow {
     HostMainWindow(const QString& title, const QList<ToolDecl>& menuTools);
 
     void setList(QWidget* list);
+    // Every menu item takes the state of the same band's tool of the component's bar.
+    void followTools(IToolBar& bar);
     // The state of a tool as the component sends it.
     void setToolEnabled(const QString& band, const QString& tool, bool enabled);
     bool isToolEnabled(const QString& band, const QString& tool) const;

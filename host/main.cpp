@@ -5,18 +5,11 @@
 #include <QCommandLineParser>
 #include <QTextStream>
 
-#include "app/Registration.h"
 #include "common/ErrorExit.h"
-#include "common/ModuleHelpers.h"
-#include "gui/QtUi.h"
-#include "gui/QtWindowFactory.h"
 #include "host/DemoSummary.h"
-#include "host/DesktopSession.h"
+#include "host/DesktopProgram.h"
 #include "host/HostMainWindow.h"
-#include "suite/Database.h"
 #include "suite/SuiteConfig.h"
-#include "suite/SuiteServices.h"
-#include "ui/windows/frmPakete.h"
 
 namespace {
 
@@ -127,47 +120,25 @@ int main(int argc, char* argv[]) {
     auto config = std::make_shared<SuiteConfig>();
     const Options options = parseOptions(app, *config);
 
-    auto clock = std::make_shared<SystemClock>();
-    std::shared_ptr<Database> db;
+    std::unique_ptr<DesktopProgram> program;
     try {
-        db = openSuiteDatabase(*config, clock);
+        program = std::make_unique<DesktopProgram>(config);
     } catch (const RaisedError& e) {
         QTextStream(stderr) << "Die Datenbank " << config->databasePath
                             << " kann nicht geöffnet werden: " << e.err().Description << "\n";
         return 1;
     }
 
-    Services s = makeSuiteServices(config, db, std::make_shared<QtUi>(), clock);
-    s.windows = std::make_shared<QtWindowFactory>(nullptr);
-    registerHostClasses(s);
-
-    QList<ToolDecl> menuTools;
-    for (const ToolDecl& t : frmPakete::declaration().tools) {
-        if (t.bar == QLatin1String("barMenu")) {
-            menuTools << t;
-        }
-    }
-
     if (options.summary) {
-        ScopedServices scope(std::move(s));
-        QTextStream(stdout) << "Datenbank: " << db->path() << "\n" << demoSummary();
+        QTextStream(stdout) << "Datenbank: " << program->database().path() << "\n" << demoSummary();
         return 0;
     }
 
-    HostMainWindow window(QString(), menuTools);
-    DesktopSession session(*config, window);
-    s.newBasisAbruf = [&session] { return session.makeBasis(); };
-    ScopedServices scope(std::move(s));
-
-    window.setWindowTitle(msGetTitel());
-    window.onTool = [&session](const QString& tool) { session.tool(tool); };
-    window.onClose = [&session] { session.end(); };
-    session.start();
-    window.show();
+    program->start();
     if (!options.shot.isEmpty()) {
         QApplication::processEvents();
-        const bool saved = window.grab().save(options.shot);
-        session.end();
+        const bool saved = program->window().grab().save(options.shot);
+        program->end();
         return saved ? 0 : 1;
     }
     return app.exec();

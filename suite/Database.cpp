@@ -1,5 +1,8 @@
 #include "suite/Database.h"
 
+#include <QFileInfo>
+#include <QRegularExpression>
+
 #include <sqlite3.h>
 
 #include <QFile>
@@ -138,8 +141,25 @@ void Database::applySchema() {
     runScript(resourceText(QStringLiteral(":/db/schema.sql")));
 }
 
-void Database::applyDemoData() {
-    runScript(resourceText(QStringLiteral(":/db/demo.sql")));
+QStringList Database::applyDemoData(const QString& folder) {
+    QString script = resourceText(QStringLiteral(":/db/demo.sql"));
+    script.replace(QStringLiteral("/srv/zpk"),
+                   QString(folder).replace(u'\'', QStringLiteral("''")));
+    runScript(script);
+    QStringList folders;
+    const QRegularExpression quoted(
+        QStringLiteral("'(%1[^']*)'")
+            .arg(QRegularExpression::escape(QString(folder).replace(u'\'', QStringLiteral("''")))));
+    for (const QRegularExpressionMatch& m : quoted.globalMatch(script)) {
+        const QString path = m.captured(1).replace(QStringLiteral("''"), QStringLiteral("'"));
+        // A name with an extension is a file: its folder is what the demo needs.
+        const QFileInfo info(path);
+        const QString dir = info.suffix().isEmpty() ? path : info.path();
+        if (!folders.contains(dir)) {
+            folders << dir;
+        }
+    }
+    return folders;
 }
 
 void Database::runScript(const QString& script) {

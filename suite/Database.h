@@ -27,7 +27,9 @@ class Database : public std::enable_shared_from_this<Database> {
     bool isEmpty() const;
     // Runs the embedded db/schema.sql, then (applyDemoData) db/demo.sql. Throws on failure.
     void applySchema();
-    void applyDemoData();
+    // The demo's jobs keep their directories below folder (their "/srv/zpk" in the script),
+    // which are created with it; gives the directories.
+    QStringList applyDemoData(const QString& folder = QStringLiteral("/srv/zpk"));
     // Runs a whole script of several statements (schema, demo data, test set-up).
     void runScript(const QString& script);
 

@@ -39,7 +39,15 @@ std::shared_ptr<Database> openSuiteDatabase(const SuiteConfig& config,
     auto db = Database::open(config.databasePath, std::move(clock));
     if (db->isEmpty()) {
         db->applySchema();
-        db->applyDemoData();
+        // The demo's jobs work in folders below the data root, made ready for them.
+        const QString dataRoot = config.paths.value(83);
+        if (dataRoot.isEmpty()) {
+            db->applyDemoData();
+        } else {
+            for (const QString& folder : db->applyDemoData(dataRoot + QStringLiteral("/demo"))) {
+                QDir().mkpath(folder);
+            }
+        }
     }
     return db;
 }

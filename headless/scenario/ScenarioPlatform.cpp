@@ -33,26 +33,6 @@ bool ScenarioShell::Start(const QString& program, const QStringList& arguments, 
 }
 
 bool ScenarioShell::Open(const QString& path) {
-    events_.add(ScenarioEvents::Kind::Shell, QStringLiteral("explorer ") + path);
+    events_.add(ScenarioEvents::Kind::Shell, QStringLiteral("xdg-open ") + path);
     return true;
-}
-
-bool LocalFileSystem::FileExists(const QString& path) {
-    return QFileInfo(path).isFile();
-}
-
-bool LocalFileSystem::FolderExists(const QString& path) {
-    return QFileInfo(path).isDir();
-}
-
-QStringList LocalFileSystem::Files(const QString& folder) {
-    return QDir(folder).entryList(QDir::Files | QDir::Hidden, QDir::Name);
-}
-
-qint64 LocalFileSystem::FileSize(const QString& path) {
-    return QFileInfo(path).size();
-}
-
-QDateTime LocalFileSystem::DateLastModified(const QString& path) {
-    return QFileInfo(path).lastModified();
 }

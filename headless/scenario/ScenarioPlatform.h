@@ -37,7 +37,7 @@ class ScenarioPlatform : public PlatformUi {
 };
 
 // Starts no program: writes down each command line (program and arguments joined by blanks;
-// opening a path reads "explorer " and the path).
+// opening a path reads as the desktop's handler started with it, "xdg-open <path>").
 class ScenarioShell : public Shell {
   public:
     explicit ScenarioShell(ScenarioEvents& events) : events_(events) {}
@@ -46,14 +46,4 @@ class ScenarioShell : public Shell {
 
   private:
     ScenarioEvents& events_;
-};
-
-// The real file system.
-class LocalFileSystem : public FileSystemObject {
-  public:
-    bool FileExists(const QString& path) override;
-    bool FolderExists(const QString& path) override;
-    QStringList Files(const QString& folder) override;
-    qint64 FileSize(const QString& path) override;
-    QDateTime DateLastModified(const QString& path) override;
 };

@@ -1,7 +1,6 @@
 #include "headless/scenario/ScenarioSystem.h"
 
 #include "app/HostInterfaces.h"
-#include "app/Registration.h"
 #include "app/cMain.h"
 #include "app/cUIAutoJobVerw.h"
 #include "headless/scenario/ScenarioError.h"
@@ -12,10 +11,6 @@ namespace {
 constexpr long kCodeAnmelden = 25;
 constexpr long kCodeZeigen = 2;
 }  // namespace
-
-void registerSystemClasses(Services& s) {
-    registerHostClasses(s);
-}
 
 SystemSession::SystemSession(ScenarioWorld& world)
     : world_(world), target_(std::make_shared<HostNotifyTarget>(world.hostState())) {}

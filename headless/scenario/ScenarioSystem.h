@@ -11,9 +11,6 @@ class cMain;
 class HostNotifyTarget;
 class HostObject;
 
-// Puts the system's classes into a registry under their program identifiers.
-void registerSystemClasses(Services& s);
-
 // The host's side of the system's life: creates cMain, opens the document and the
 // application, sends notification codes and passes tool names from the host's menu.
 class SystemSession {

@@ -5,8 +5,7 @@
 #include "common/ErrObject.h"
 #include "common/ErrorReport.h"
 #include "headless/scenario/ScenarioError.h"
-#include "headless/scenario/ScenarioSystem.h"
-#include "suite/SuiteServices.h"
+#include "program/ProgramServices.h"
 
 namespace {
 
@@ -53,14 +52,13 @@ ScenarioWorld::ScenarioWorld(ScenarioPrompter& prompter,
         scenarioFail(QStringLiteral("the database cannot be set up: %1").arg(e.err().Description));
     }
 
-    Services s = makeSuiteServices(config_, db_, platform_, clock_);
-    s.fileSystem = std::make_shared<LocalFileSystem>();
+    // The program's own composition; the scenario controls the clock, the platform's
+    // dialogs, the shell (a recorder), the window kit and, as host, the base object.
+    Services s = composeProgramServices({config_, db_, clock_, platform_, windows_});
     s.shell = std::make_shared<ScenarioShell>(events_);
-    s.windows = windows_;
     s.newBasisAbruf = [state = host_, frame = frame_.get()]() -> std::unique_ptr<ZPKyBasisAbruf> {
         return std::make_unique<ScenarioBasis>(state, *frame);
     };
-    registerSystemClasses(s);
     scope_ = std::make_unique<ScopedServices>(std::move(s));
 
     setText(1001, QStringLiteral("Suite"));

@@ -12,12 +12,12 @@
 #include <memory>
 #include <vector>
 
-#include "app/Registration.h"
 #include "app/cAdminJob.h"
 #include "app/cMain.h"
 #include "app/cOIAutoJobVerw.h"
 #include "app/cProperties.h"
 #include "app/cUIAutoJobVerw.h"
+#include "program/ProgramServices.h"
 #include "suite/SuiteServices.h"
 #include "tests/common/CommonFakes.h"
 #include "tests/headless/HeadlessTestKit.h"
@@ -316,13 +316,12 @@ class World {
   private:
     Services makeServices() {
         config->paths[41] = kProgrammDir;
-        Services s = makeSuiteServices(config, db, ui, clock);
+        Services s = composeProgramServices({config, db, clock, ui, windows});
         db->applySchema();
         db->runScript(
             QStringLiteral("INSERT INTO tMitarbeiter (MitId, Name) VALUES (1, 'Anna Admin');"
                            "INSERT INTO tSuiteText (TextId, Text) VALUES (1001, 'Suite');"
                            "INSERT INTO tSuiteText (TextId, Text) VALUES (1236, 'Kesto');"));
-        s.windows = windows;
         s.shell = shell;
         s.fileSystem = fileSystem;
         auto state = host;
@@ -335,7 +334,6 @@ class World {
             log->antwort = self->traceAntwort;
             return log;
         };
-        registerHostClasses(s);
         return s;
     }
 };

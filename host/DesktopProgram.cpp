@@ -1,0 +1,65 @@
+#include "host/DesktopProgram.h"
+
+#include "common/Clock.h"
+#include "common/ModuleHelpers.h"
+#include "gui/QtUi.h"
+#include "gui/QtWindowFactory.h"
+#include "host/DesktopSession.h"
+#include "host/HostMainWindow.h"
+#include "program/ProgramServices.h"
+#include "suite/SuiteServices.h"
+#include "ui/windows/frmPakete.h"
+
+namespace {
+
+// The tools of the list's menu bar, whose bands become the host's menus.
+QList<ToolDecl> menuTools() {
+    QList<ToolDecl> tools;
+    for (const ToolDecl& t : frmPakete::declaration().tools) {
+        if (t.bar == QLatin1String("barMenu")) {
+            tools << t;
+        }
+    }
+    return tools;
+}
+
+}  // namespace
+
+Services desktopServices(std::shared_ptr<SuiteConfig> config, std::shared_ptr<Database> db) {
+    auto clock = std::make_shared<SystemClock>();
+    return composeProgramServices({std::move(config), std::move(db), clock,
+                                   std::make_shared<QtUi>(),
+                                   std::make_shared<QtWindowFactory>(nullptr)});
+}
+
+DesktopProgram::DesktopProgram(std::shared_ptr<SuiteConfig> config)
+    : config_(std::move(config)),
+      db_(openSuiteDatabase(*config_, std::make_shared<SystemClock>())),
+      window_(std::make_unique<HostMainWindow>(QString(), menuTools())),
+      session_(std::make_unique<DesktopSession>(*config_, *window_)) {
+    Services s = desktopServices(config_, db_);
+    s.newBasisAbruf = [session = session_.get()] { return session->makeBasis(); };
+    scope_ = std::make_unique<ScopedServices>(std::move(s));
+
+    window_->setWindowTitle(msGetTitel());
+    window_->onTool = [session = session_.get()](const QString& tool) { session->tool(tool); };
+    window_->onClose = [this] { end(); };
+}
+
+DesktopProgram::~DesktopProgram() {
+    end();
+    window_->onTool = nullptr;
+    window_->onClose = nullptr;
+    session_.reset();
+    window_.reset();
+    scope_.reset();
+}
+
+void DesktopProgram::start() {
+    session_->start();
+    window_->show();
+}
+
+void DesktopProgram::end() {
+    session_->end();
+}

@@ -1,0 +1,41 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <QTableView>
+#include <QTemporaryDir>
+#include <memory>
+
+#include "host/DesktopProgram.h"
+#include "host/HostMainWindow.h"
+#include "suite/SuiteConfig.h"
+#include "tests/host/RealInput.h"
+
+// The program as the README's demo command starts it, on a fresh demo database in a
+// temporary folder, its program directory there too.
+class ProgramFixture : public ::testing::Test {
+  protected:
+    void SetUp() override;
+    void TearDown() override;
+
+    QString root() const { return dir_.path(); }
+    HostMainWindow& mainWindow() { return program_->window(); }
+    QTableView* list();
+    // The first column of the first row of a query on the database file, read beside the
+    // program as another program would.
+    QString scalar(const QString& sql);
+    // Opens a menu of the main window's menu bar and clicks its item.
+    void chooseMenu(const QString& menu, const QString& item);
+
+    QTemporaryDir dir_;
+    std::shared_ptr<SuiteConfig> config_;
+    std::unique_ptr<DesktopProgram> program_;
+    std::unique_ptr<real_input::MessageBoxes> boxes_;
+};
+
+inline void PrintTo(const QString& s, std::ostream* os) {
+    *os << '"' << s.toStdString() << '"';
+}
+inline void PrintTo(const QStringList& l, std::ostream* os) {
+    *os << '[' << l.join(QStringLiteral("] [")).toStdString() << ']';
+}

@@ -1,0 +1,192 @@
+// The program users start, driven through its widgets as a person does.
+#include <QAction>
+#include <QFile>
+#include <QMenu>
+#include <QMenuBar>
+#include <QTest>
+#include <QTimer>
+
+#include "tests/host/ProgramFixture.h"
+
+using namespace real_input;
+
+namespace {
+
+const QString kLindner = QStringLiteral("Lieferanten Autohaus Lindner");
+
+// A stand-in of the starter: writes down the arguments it was started with.
+void placeRecordingStarter(const QString& programDir) {
+    QDir().mkpath(programDir);
+    QFile starter(programDir + QStringLiteral("ZPKyJobStart.exe"));
+    ASSERT_TRUE(starter.open(QIODevice::WriteOnly));
+    starter.write("#!/bin/sh\nprintf '%s\\n' \"$@\" > \"$0.started\"\n");
+    starter.close();
+    starter.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+}
+
+QString fileText(const QString& path) {
+    QFile f(path);
+    return f.open(QIODevice::ReadOnly) ? QString::fromUtf8(f.readAll()) : QString();
+}
+
+}  // namespace
+
+using DesktopProgramTest = ProgramFixture;
+
+TEST_F(DesktopProgramTest, DoubleClickOpensTheJobAndUebernehmenStoresTheDescription) {
+    const int row = rowShowing(list(), QStringLiteral("Name"), kLindner);
+    ASSERT_GT(row, 0);
+    QString caption;
+    QString stored;
+    bool done = false;
+    whenShown(QStringLiteral("frmEigenschaften"), [&](QWidget* w) {
+        caption = w->windowTitle();
+        typeOver(find(w, QStringLiteral("txtTextBox(2)")), QStringLiteral("Aus der Buchhaltung"));
+        click(find(w, QStringLiteral("cmdCommandButton(7)")));
+        stored = scalar(QStringLiteral("SELECT Beschreibung FROM tAutoJobJob WHERE idAutoJob = 2"));
+        click(find(w, QStringLiteral("cmdCommandButton(1)")));
+        done = true;
+    });
+    doubleClickRow(list(), row);
+    ASSERT_TRUE(waitFor([&] { return done; }));
+
+    EXPECT_EQ(caption, kLindner + QStringLiteral(" - Bearbeiten "));
+    EXPECT_EQ(stored, QStringLiteral("Aus der Buchhaltung"));
+    EXPECT_EQ(boxes_->shown(), QStringList());
+    EXPECT_EQ(shownWindow(QStringLiteral("frmEigenschaften")), nullptr);
+}
+
+TEST_F(DesktopProgramTest, NewJobFromTheMenuIsSaved) {
+    const QString importDir = root() + QStringLiteral("/import");
+    const QString logDir = root() + QStringLiteral("/log");
+    QDir().mkpath(importDir);
+    QDir().mkpath(logDir);
+    const QString before = scalar(QStringLiteral("SELECT count(*) FROM tAutoJobJob"));
+    bool done = false;
+    whenShown(QStringLiteral("frmEigenschaften"), [&](QWidget* w) {
+        typeOver(find(w, QStringLiteral("txtTextBox(0)")), QStringLiteral("Kunden Neu"));
+        // The first client and the first staff member, picked with the arrow key.
+        for (const char* selection : {"ctlMandant", "ctlMitarbeiterBuchProp"}) {
+            QWidget* combo = find(w, QString::fromLatin1(selection));
+            click(combo);
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+            QTest::keyClick(combo, Qt::Key_Down);
+        }
+        typeOver(find(w, QStringLiteral("txtTextBox(3)")), importDir);
+        typeOver(find(w, QStringLiteral("txtTextBox(4)")), logDir);
+        boxes_->answerNext(QStringLiteral("Nein"));
+        click(find(w, QStringLiteral("cmdCommandButton(0)")));
+        done = true;
+    });
+    chooseMenu(QStringLiteral("Bearbeiten"), QStringLiteral("Neu"));
+    ASSERT_TRUE(waitFor([&] { return done; }));
+
+    EXPECT_EQ(boxes_->shown().size(), 1) << boxes_->shown().join(u'|').toStdString();
+    EXPECT_EQ(scalar(QStringLiteral("SELECT count(*) FROM tAutoJobJob")).toInt(),
+              before.toInt() + 1);
+    EXPECT_EQ(scalar(QStringLiteral("SELECT MTAPath FROM tAutoJobJob WHERE Name = 'Kunden Neu'")),
+              importDir);
+    EXPECT_EQ(scalar(QStringLiteral("SELECT DatenArt FROM tAutoJobJob WHERE Name = 'Kunden Neu'")),
+              QStringLiteral("17"));
+    EXPECT_GT(rowShowing(list(), QStringLiteral("Name"), QStringLiteral("Kunden Neu")), 0);
+}
+
+TEST_F(DesktopProgramTest, ScheduleCreatedThroughBothDialogs) {
+    const QString count = QStringLiteral(
+        "SELECT count(*) FROM tAutoJobSchedule WHERE idAutoJob = 2 AND Name = 'Nachts'");
+    ASSERT_EQ(scalar(count), QStringLiteral("0"));
+    bool intervalShown = false;
+    bool done = false;
+    whenShown(QStringLiteral("frmEigenschaften"), [&](QWidget* w) {
+        clickTab(find(w, QStringLiteral("tabControl")), 1);
+        whenShown(QStringLiteral("frmZeitplan"), [&](QWidget* plan) {
+            typeOver(find(plan, QStringLiteral("txtTextBox(0)")), QStringLiteral("Nachts"));
+            whenShown(QStringLiteral("frmZeitIntervall"), [&](QWidget* interval) {
+                intervalShown = true;
+                click(find(interval, QStringLiteral("cmdCommandButton(0)")));
+            });
+            click(find(plan, QStringLiteral("cmdCommandButton(2)")));
+            click(find(plan, QStringLiteral("cmdCommandButton(0)")));
+        });
+        click(find(w, QStringLiteral("cmdCommandButton(3)")));
+        click(find(w, QStringLiteral("cmdCommandButton(1)")));
+        done = true;
+    });
+    doubleClickRow(list(), rowShowing(list(), QStringLiteral("Name"), kLindner));
+    ASSERT_TRUE(waitFor([&] { return done; }));
+
+    EXPECT_TRUE(intervalShown);
+    EXPECT_EQ(scalar(count), QStringLiteral("1"));
+    EXPECT_EQ(boxes_->shown(), QStringList());
+}
+
+TEST_F(DesktopProgramTest, AuftragAusfuehrenStartsTheStarterWithJobAndStaffMember) {
+    placeRecordingStarter(config_->paths[41]);
+    const int row =
+        rowShowing(list(), QStringLiteral("Name"), QStringLiteral("Kunden Bäckerei Huber"));
+    ASSERT_GT(row, 0);
+    rightClickRow(list(), row);
+    ASSERT_TRUE(waitFor([] { return openPopup() != nullptr; }, 3000));
+    ASSERT_TRUE(clickMenuItem(openPopup(), QStringLiteral("Auftrag ausführen")));
+
+    const QString record = config_->paths[41] + QStringLiteral("ZPKyJobStart.exe.started");
+    ASSERT_TRUE(waitFor([&] { return !fileText(record).isEmpty(); }));
+    EXPECT_EQ(fileText(record), QStringLiteral("/JOBID=1\n/MITID=1\n"));
+    EXPECT_EQ(boxes_->shown(), QStringList());
+}
+
+TEST_F(DesktopProgramTest, HostMenusAgreeWithTheListsToolsAndReachTheirCommands) {
+    QWidget* listWindow = mainWindow().centralWidget();
+    ASSERT_NE(listWindow, nullptr);
+    auto agree = [&](const char* when) {
+        int compared = 0;
+        for (QAction* hostItem : mainWindow().menuBar()->findChildren<QAction*>()) {
+            const auto* menu = qobject_cast<QMenu*>(hostItem->parent());
+            if (!menu || hostItem->objectName().isEmpty()) {
+                continue;
+            }
+            const QString band = menu->objectName().mid(4);
+            auto* listTool =
+                listWindow->findChild<QAction*>(band + QLatin1Char('.') + hostItem->objectName());
+            if (!listTool) {
+                continue;
+            }
+            ++compared;
+            EXPECT_EQ(hostItem->isEnabled(), listTool->isEnabled())
+                << when << ": " << band.toStdString() << "/"
+                << hostItem->objectName().toStdString();
+        }
+        EXPECT_GE(compared, 13) << when;
+    };
+    agree("at start");
+    auto* neu = mainWindow().findChild<QAction*>(QStringLiteral("Neu"));
+    ASSERT_NE(neu, nullptr);
+    EXPECT_TRUE(neu->isEnabled());
+
+    clickRow(list(), 1);
+    agree("one job selected");
+    QTest::mouseClick(list()->viewport(), Qt::LeftButton, Qt::ControlModifier,
+                      list()->visualRect(list()->model()->index(1, 1)).center());
+    agree("two jobs selected");
+
+    clickRow(list(), rowShowing(list(), QStringLiteral("Name"), kLindner));
+    QString caption;
+    whenShown(QStringLiteral("frmEigenschaften"), [&](QWidget* w) {
+        caption = w->windowTitle();
+        click(find(w, QStringLiteral("cmdCommandButton(1)")));
+    });
+    chooseMenu(QStringLiteral("Bearbeiten"), QStringLiteral("Bearbeiten"));
+    ASSERT_TRUE(waitFor([&] { return !caption.isEmpty(); }));
+    EXPECT_EQ(caption, kLindner + QStringLiteral(" - Bearbeiten "));
+    agree("after the editor");
+    EXPECT_EQ(boxes_->shown(), QStringList());
+}
+
+TEST_F(DesktopProgramTest, CloseBoxEndsTheDocumentAndLeavesTheDataAsItWas) {
+    const QString jobs = scalar(QStringLiteral("SELECT count(*) FROM tAutoJobJob"));
+    mainWindow().close();
+    EXPECT_FALSE(mainWindow().isVisible());
+    EXPECT_EQ(mainWindow().centralWidget(), nullptr);
+    EXPECT_EQ(scalar(QStringLiteral("SELECT count(*) FROM tAutoJobJob")), jobs);
+    EXPECT_EQ(boxes_->shown(), QStringList());
+}
