@@ -24,6 +24,7 @@ class frmOptTextDatName;
 class frmOptTextDateien;
 class frmPakete;
 class frmZeitplan;
+class frmZeitplanCopy;
 class IBrowser;
 class IComboBox;
 class ITool;
@@ -236,9 +237,6 @@ class cAdminJob {
 
     void mAktuFrmPakete(long lJobId);
     void mSetFormCaption(const QString& sName);
-    // When the editor stays where it was, the list goes back to the job on show: the list
-    // and the step tools always stand on it.
-    void mListeAufAngezeigtenAuftrag();
     // Hands the editor's events to this controller, or cuts them when it goes.
     void mEigenschaftenVerbinden();
     void mEigenschaftenTrennen();
@@ -260,7 +258,8 @@ class cAdminJob {
     void mofrmEigenschaften_evOptDateiAuswaehlen(int Index);
     void mofrmEigenschaften_evMitFremdformat();
 
-    // The schedule dialog; the copying of schedules acts once its window is written.
+    // The schedule dialog, and the dialog that copies a schedule to other jobs
+    // (schedule/AdminJobScheduleCopy.cpp).
     void mShowFRMZeitplanEigenschaften(long lZeitplanId, const QString& sName);
     void mShowZeitPlanKopieren(long lZeitplanId, const QString& sName);
 
@@ -422,6 +421,43 @@ class cAdminJob {
     // True while the dialog is being filled: no focus moves, no combo reactions.
     bool mbLadeZeitintervall = false;
 
+    // ---- Copying a schedule to other jobs (schedule/AdminJobScheduleCopy.cpp) -----------
+    // mShowZeitPlanKopieren, the entry, stands with the job editor above.
+
+    friend class ScheduleCopyTestAccess;
+
+    void mEndeZeitplanKopieren();
+    void mInitGridAuftrag();
+    // Lists every job but the one on show, each ticked.
+    void mFuelleGridAuftrag();
+    void moGridAuftrag_Click(int lRow, int lCol);
+    void mZeitplanCopySetzen(long& lRow, long& lCol);
+    void mZeitplanWaehlen(bool bAbwaehlen);
+    // The buttons' enabled states and the count of ticked jobs, red at none.
+    void mCMDZeitplanWaehlen();
+    // Copies the schedule to every ticked job and reports what happened.
+    void mZeitplanKopieren(std::uint8_t byZeitplanUeberschreiben);
+    // Copies the schedule to one job, matched there by name.
+    void mZeitplanCopy(long& lJobId);
+    void mofrmZeitplanCopy_evZeitplanCopyOk(std::uint8_t& byZeitplanUeberschreiben);
+    void mofrmZeitplanCopy_evZeitplanCopyCancel();
+    void mofrmZeitplanCopy_evZeitplanWaehlen(bool& bAbwaehlen);
+
+    long mlKopieZeitplanId = 0;
+    QString msKopieZeitplanName;
+    std::uint8_t mbyKopieUeberschreiben = 0;
+    // Ticked and listed jobs while the window is open.
+    long mlKopieAusgewaehlt = 0;
+    long mlKopieGesamt = 0;
+    // The counts of one copy run.
+    long mlKopieErfolgreich = 0;
+    long mlKopieNichtUeberschrieben = 0;
+    long mlKopieNeu = 0;
+    // The normal fore colour of lblZeitplanCopyInfo, as decimal text.
+    QString msKopieInfoFarbe;
+    // The window's job grid while the window is open.
+    class IGrid* moGridAuftrag = nullptr;
+
     // ---- Windows: each empty until it exists --------------------------------------------
 
     std::shared_ptr<frmPakete> moFrmPakete;
@@ -429,6 +465,7 @@ class cAdminJob {
     std::shared_ptr<frmEigenschaften> mofrmEigenschaften;
     std::shared_ptr<frmZeitIntervall> mofrmzeitIntervall;
     std::shared_ptr<frmZeitplan> mofrmZeitplanEigenschaften;
+    std::shared_ptr<frmZeitplanCopy> mofrmZeitplanCopy;
 
     // Cuts every event the windows still hold to this controller when it goes away.
     LifeToken mLeben;

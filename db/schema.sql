@@ -127,10 +127,12 @@ CREATE INDEX ixAutoJobJob_Mandant ON tAutoJobJob (Ps_Id_Mandant);
 --                              9999-12-31 means no end; a single run (type 1)
 --                              has end date = start date
 --   Ps_Id                      staff id of the last writer
+--   Name                       compared without regard to case, as the server
+--                              does: copying a schedule matches it by name
 CREATE TABLE tAutoJobSchedule (
     idAutoJobSchedule           INTEGER PRIMARY KEY AUTOINCREMENT,
     idAutoJob                   INTEGER NOT NULL DEFAULT 0,
-    Name                        VARCHAR(100) DEFAULT '',
+    Name                        VARCHAR(100) DEFAULT '' COLLATE NOCASE,
     Aktiviert                   BIT DEFAULT 1,
     FreqencyType                INTEGER DEFAULT 0,
     FrequencyRecurrenceFactor   INTEGER DEFAULT 0,
@@ -145,8 +147,11 @@ CREATE TABLE tAutoJobSchedule (
     LetzteAenderung             DATETIME,
     Ps_Id                       INTEGER DEFAULT 0
 );
--- Schedules are listed, started and copied by job (and by name within a job).
-CREATE INDEX ixAutoJobSchedule_Job ON tAutoJobSchedule (idAutoJob, Name);
+-- Schedules are listed, started and copied by job. The name stays out of the
+-- index: the program compares it as the server does, other SQLite clients
+-- (the agent, the sqlite3 shell) with their own NOCASE, and an index on it
+-- would be sorted by whichever wrote it.
+CREATE INDEX ixAutoJobSchedule_Job ON tAutoJobSchedule (idAutoJob);
 
 ------------------------------------------------------------------------------
 -- Run history (written by the agent service)

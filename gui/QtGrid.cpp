@@ -82,6 +82,15 @@ void QtGrid::updateCell(int row, int col) {
         if (item->text() != c.text) {
             item->setText(c.text);
         }
+        // A heading follows the alignment mark of its format string part; without one it
+        // stays as the header draws it.
+        const QChar mark = ColFormatAlignment(col);
+        if (!mark.isNull()) {
+            const Qt::Alignment horizontal = mark == QLatin1Char('>')   ? Qt::AlignRight
+                                             : mark == QLatin1Char('^') ? Qt::AlignHCenter
+                                                                        : Qt::AlignLeft;
+            item->setTextAlignment(horizontal | Qt::AlignVCenter);
+        }
         return;
     }
     const int tableRow = row - heading;

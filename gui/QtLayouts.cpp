@@ -6,6 +6,7 @@
 #include "gui/LayoutFrmPakete.h"
 #include "gui/LayoutFrmZeitIntervall.h"
 #include "gui/LayoutFrmZeitplan.h"
+#include "gui/LayoutFrmZeitplanCopy.h"
 
 namespace {
 
@@ -15,6 +16,7 @@ QHash<QString, QtLayout>& registered() {
         {QStringLiteral("frmeigenschaften"), &layoutFrmEigenschaften},
         {QStringLiteral("frmzeitintervall"), &layoutFrmZeitIntervall},
         {QStringLiteral("frmzeitplan"), &layoutFrmZeitplan},
+        {QStringLiteral("frmzeitplancopy"), &layoutFrmZeitplanCopy},
     };
     return layouts;
 }

@@ -57,20 +57,17 @@ void cAdminJob::mShowFRMPakete(long lJobId, const QString& sName) {
                     QStringLiteral("Sollen die Daten für den neuen Auftrag gespeichert werden?"),
                     MsgStyle::YesNoCancelQuestion);
             }
+            // A step has already moved the list's selection and its row to the target; the
+            // window stays on the job on show all the same, so the next step counts from the
+            // target's row.
             if (lAntwort == MsgAnswer::Cancel) {
-                mListeAufAngezeigtenAuftrag();
                 return;
             }
             if (lAntwort == MsgAnswer::Yes) {
                 if (!mbCheckEigenschaften()) {
-                    mListeAufAngezeigtenAuftrag();
                     return;
                 }
                 mEigenschaftenSpeichern(true);
-                // Saving put the list back on the job it saved: back to the one to open.
-                if (lJobId >= 1 && mbBrowserSelectItem(lJobId)) {
-                    mlJobZeile = mPakete().Auswahl().Row();
-                }
             }
         } else {
             auto oWindow = ex.create<IWindow>(
@@ -123,15 +120,6 @@ void cAdminJob::mShowFRMPakete(long lJobId, const QString& sName) {
         mbInitEigenschaften = false;
         ex.fail();
     }
-}
-
-void cAdminJob::mListeAufAngezeigtenAuftrag() {
-    withErrorExit(QStringLiteral("mListeAufAngezeigtenAuftrag"), kKlasse, 0, [this](ErrorExit&) {
-        if (mlJobId >= 1 && moPakete && mbBrowserSelectItem(mlJobId)) {
-            mlJobZeile = moPakete->Auswahl().Row();
-        }
-        return 0;
-    });
 }
 
 void cAdminJob::mAktuFrmPakete(long lJobId) {

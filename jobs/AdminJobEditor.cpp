@@ -305,10 +305,10 @@ void cAdminJob::mEigenschaftenSpeichern(bool bUebernehmen) {
             form.cmdCommandButton(kCmdUebernehmen).setEnabled(false);
             form.tbrMain().setToolEnabled(QStringLiteral("barMain"), PropertiesTool::Save, false);
             mBrowserRefresh(false);
-            // The refresh has put the list on the saved job: that is the row to step from.
+            // The step row becomes the list's last one, where a job saved for the first time
+            // stands; the step tools and the next step count from there.
             if (moPakete && moPakete->Auswahl().RecordCount() >= 1) {
-                const ISelectionObject& auswahl = moPakete->Auswahl();
-                mlJobZeile = auswahl.Row() >= 1 ? auswahl.Row() : auswahl.RowCount() - 1;
+                mlJobZeile = moPakete->Auswahl().RowCount() - 1;
             }
             mAktuFrmPakete(mlJobId);
         }

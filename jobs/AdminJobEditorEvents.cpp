@@ -171,12 +171,16 @@ void cAdminJob::mPaketeCMDClick(int Index) {
                 mShowFileSystemPfad(4);
                 break;
             case Cmd::ZeitplanKopieren: {
+                // Without a schedule row the dialog opens all the same, on id 0 and no name.
                 IGrid& grid = mofrmEigenschaften->grdZeitplan();
                 const int lRow = grid.Row();
+                long lZeitplanId = 0;
+                QString sName;
                 if (lRow >= 1) {
-                    mShowZeitPlanKopieren(grid.TextMatrix(lRow, ZeitplanSpalte::Id).toLong(),
-                                          grid.TextMatrix(lRow, ZeitplanSpalte::Name));
+                    lZeitplanId = grid.TextMatrix(lRow, ZeitplanSpalte::Id).toLong();
+                    sName = grid.TextMatrix(lRow, ZeitplanSpalte::Name);
                 }
+                mShowZeitPlanKopieren(lZeitplanId, sName);
                 break;
             }
             case Cmd::Mappingdatei:
@@ -189,6 +193,3 @@ void cAdminJob::mPaketeCMDClick(int Index) {
         ex.fail();
     }
 }
-
-// The copying of schedules acts once it is written.
-void cAdminJob::mShowZeitPlanKopieren(long, const QString&) {}

@@ -74,6 +74,23 @@ void len(sqlite3_context* ctx, int, sqlite3_value** argv) {
     sqlite3_result_int64(ctx, n);
 }
 
+// The server compares texts without regard to case, umlauts included, and without trailing
+// blanks; SQLite's own NOCASE folds only A to Z.
+QString ohneFolgeleerzeichen(const void* data, int bytes) {
+    QString text = QString::fromUtf8(static_cast<const char*>(data), bytes);
+    qsizetype n = text.size();
+    while (n > 0 && text.at(n - 1) == u' ') {
+        --n;
+    }
+    text.truncate(n);
+    return text;
+}
+
+int nocase(void*, int bytesA, const void* a, int bytesB, const void* b) {
+    return QString::compare(ohneFolgeleerzeichen(a, bytesA), ohneFolgeleerzeichen(b, bytesB),
+                            Qt::CaseInsensitive);
+}
+
 }  // namespace
 
 int registerServerFunctions(sqlite3* db, const IClock* clock) {
@@ -88,6 +105,9 @@ int registerServerFunctions(sqlite3* db, const IClock* clock) {
     if (rc == SQLITE_OK) {
         rc =
             sqlite3_create_function_v2(db, "len", 1, pure, nullptr, len, nullptr, nullptr, nullptr);
+    }
+    if (rc == SQLITE_OK) {
+        rc = sqlite3_create_collation_v2(db, "NOCASE", SQLITE_UTF8, nullptr, nocase, nullptr);
     }
     return rc;
 }

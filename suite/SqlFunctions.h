@@ -8,5 +8,7 @@ class IClock;
 //   datediff(unit, a, b)  unit boundaries crossed from a to b (SqlDates.h); a and b are date
 //                         texts or day numbers, NULL gives NULL
 //   len(text)             length without trailing blanks
+//   COLLATE NOCASE        replaced: texts compare as on the server, without regard to case
+//                         (umlauts too) and without trailing blanks
 // The clock must outlive the connection. Returns SQLite's result code.
 int registerServerFunctions(sqlite3* db, const IClock* clock);

@@ -408,7 +408,8 @@ void SqliteRecordset::WriteLong(const QString& field, long value) {
 
 void SqliteRecordset::WriteText(const QString& field, const QString& value) {
     if (!columns_.value(fieldIndex(field)).isDate) {
-        write(field, value);
+        // A null text would be bound as NULL; what is written is a text, the empty one too.
+        write(field, value.isNull() ? QString(QLatin1String("")) : value);
         return;
     }
     const QString text = value.trimmed();

@@ -45,7 +45,8 @@ class SqliteRecordset : public CRecordset {
 
     // A date column (declared type holding DATE or TIME) takes a whole number written by
     // WriteLong or WriteText as a day number since 1899-12-30, and a date text in the stored
-    // form 'yyyy-MM-dd HH:mm:ss'; an empty text is NULL.
+    // form 'yyyy-MM-dd HH:mm:ss'; an empty text is NULL. Any other column takes an empty
+    // text as the empty text, never as NULL.
     void WriteBool(const QString& field, bool value) override;
     void WriteDate(const QString& field, const QDateTime& value) override;
     void WriteLong(const QString& field, long value) override;

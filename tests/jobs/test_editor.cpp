@@ -112,9 +112,33 @@ TEST_F(Editor, SavingOnTheWayOutThatFailsTheChecksKeepsTheJobAndTheList) {
     EXPECT_EQ(AdminJobTestAccess::jobId(admin()), 1);
     EXPECT_EQ(form()->txtTextBox(0).Text(), "");
     EXPECT_TRUE(speichernAn());
-    // The list stands on the job on show again, so the next step starts from there.
+    // The step had already moved the list to its target; it stays there.
+    EXPECT_EQ(EditorTestAccess::jobZeile(admin()), 2);
+    EXPECT_EQ(w.browser().Auswahl().SelCount(), 1);
+    EXPECT_EQ(w.browser().Auswahl().SelRow(0), 2);
+}
+
+TEST_F(Editor, ACancelledStepLeavesTheListOnItsTargetSoTheNextStepCountsFromThere) {
+    dreiJobs();
+    oeffnen(2);
+    form()->txtTextBox(2).SetFocus();
+    dynamic_cast<UserActions&>(form()->txtTextBox(2)).userType(QStringLiteral("neu"));
+    w.ui->answers = {2, 1, 1};
+    EditorTestAccess::paketNav(admin(), QStringLiteral("previous"));
+    EXPECT_EQ(form()->window().Caption(), "B - Bearbeiten ");
+    EXPECT_EQ(form()->txtTextBox(2).Text(), "neu");
     EXPECT_EQ(EditorTestAccess::jobZeile(admin()), 1);
     EXPECT_EQ(w.browser().Auswahl().SelRow(0), 1);
+    // From the first row there is nothing before.
+    EditorTestAccess::paketNav(admin(), QStringLiteral("first"));
+    EditorTestAccess::paketNav(admin(), QStringLiteral("previous"));
+    ASSERT_EQ(w.ui->boxes.size(), 3u);
+    EXPECT_EQ(w.ui->boxes[0].text,
+              "Sollen die geänderten Daten für den neuen Auftrag gespeichert werden?");
+    EXPECT_EQ(w.ui->boxes[1].text, "Keine weiteren Aufträge vorhanden.");
+    EXPECT_EQ(w.ui->boxes[1].title, "B - Bearbeiten ");
+    EXPECT_EQ(w.ui->boxes[2].text, "Keine weiteren Aufträge vorhanden.");
+    EXPECT_EQ(AdminJobTestAccess::jobId(admin()), 2);
 }
 
 TEST_F(Editor, OkThatFailsTheChecksKeepsTheWindowOpen) {

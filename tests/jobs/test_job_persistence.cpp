@@ -442,6 +442,54 @@ TEST_F(JobPersistence, AFailedSaveIsReportedOnceAndLeavesTheRecordAsItWas) {
         << w.ui->reports[0].description.toStdString();
 }
 
+// The columns of tAutoJobJob that hold NULL in the row of the job.
+QStringList nullTexte(World& w, long lId) {
+    QStringList nulls;
+    for (const char* sSpalte : {"Name", "Beschreibung", "MTAPath", "BackupPath", "ErrorMTA",
+                                "Zusatzinfo", "FremdDateifilter", "FremdMapping"}) {
+        const QString sAnzahl = w.scalar(
+            QStringLiteral("SELECT count(*) FROM tAutoJobJob WHERE idAutoJob = %1 AND %2 IS NULL")
+                .arg(lId)
+                .arg(QString::fromUtf8(sSpalte)));
+        if (sAnzahl != QLatin1String("0")) {
+            nulls << QString::fromUtf8(sSpalte);
+        }
+    }
+    return nulls;
+}
+
+TEST_F(JobPersistence, AJobWithEmptyTextsKeepsThemAsEmptyTextsNotNull) {
+    // A new archive job keeps no directory 3 and no Zusatzinfo, a bookings job without the
+    // foreign format no filter and no mapping; nothing of it may be NULL.
+    for (const std::uint8_t art : {4, 5, 17, 18, 20, 21, 28, 30, 99}) {
+        SCOPED_TRACE(art);
+        JobRecord r;
+        r.lJobId = -1;
+        r.bytDatenArt = art;
+        r.bytAktiviert = 1;
+        r.bytMandKanz = 3;
+        A::speichern(admin(), r);
+        ASSERT_GT(r.lJobId, 0);
+        EXPECT_EQ(nullTexte(w, r.lJobId), QStringList());
+        EXPECT_EQ(w.scalar(QStringLiteral("SELECT typeof(ErrorMTA) || typeof(Zusatzinfo) || "
+                                          "typeof(FremdDateifilter) || typeof(FremdMapping) "
+                                          "FROM tAutoJobJob WHERE idAutoJob = %1")
+                               .arg(r.lJobId)),
+                  "texttexttexttext");
+    }
+    // Saving an existing job with texts emptied stores the empty texts over the old ones.
+    JobRecord r = neuerJob(4);
+    A::speichern(admin(), r);
+    r.sBeschreibung.clear();
+    r.sVerzeichnis3 = QString();
+    r.sZusatzinfo = QString();
+    r.bFremdFormat = false;
+    A::speichern(admin(), r);
+    EXPECT_EQ(nullTexte(w, r.lJobId), QStringList());
+    EXPECT_EQ(spalte(r.lJobId, "FremdDateifilter"), "");
+    EXPECT_TRUE(w.ui->reports.empty());
+}
+
 TEST(JobPasteFromTheList, CopyThenPasteAddsASecondJobOfTheSameNameToTheList) {
     World w;
     w.job(4, "A");

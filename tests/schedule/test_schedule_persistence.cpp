@@ -204,6 +204,15 @@ TEST_F(SchedulePersistence, ANewScheduleIsStoredColumnByColumn) {
     EXPECT_TRUE(w.ui->reports.empty());
 }
 
+TEST_F(SchedulePersistence, AScheduleWithoutNameStoresTheEmptyTextNotNull) {
+    cSchedule o;
+    A::speichern(admin(), -1, 5, o);
+    EXPECT_EQ(w.scalar(QStringLiteral("SELECT typeof(Name) FROM tAutoJobSchedule")), "text");
+    EXPECT_EQ(w.scalar(QStringLiteral("SELECT count(*) FROM tAutoJobSchedule WHERE Name = ''")),
+              "1");
+    EXPECT_TRUE(w.ui->reports.empty());
+}
+
 TEST_F(SchedulePersistence, ATimeThatIsNoNumberWritesNothing) {
     taeglich(4, 5, "alt");
     const QString vorher = werteDesJobs(5);
