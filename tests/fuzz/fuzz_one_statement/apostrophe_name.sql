@@ -1,0 +1,1 @@
+select * from tAutoJobSchedule where Name = 'O'; DELETE FROM tWache; --'

@@ -1,0 +1,2 @@
+update tWache set Wert = 'weg' ; -- und
+ delete from tWache

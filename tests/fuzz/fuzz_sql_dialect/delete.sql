@@ -1,0 +1,1 @@
+delete from SYS_JobAgentLogDaten where Datum >= '2026-11-01 00:00:00' and Datum <= '2026-11-30 23:59:59' and LogTyp = 2

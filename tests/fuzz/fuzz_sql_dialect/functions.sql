@@ -1,0 +1,1 @@
+SELECT isnull(Name, '') AS N, len(Name) FROM V_ZPK_Applications_System_AutoJob WHERE Name LIKE 'a''b%' /* c */ -- d

@@ -1,0 +1,1 @@
+select top 1 * from dbo.tAutoJobVerlauf where idAutoJob = 3 and datediff(ww, Startzeit, getdate()) <= 2 order by [Startzeit] desc

@@ -1,0 +1,1 @@
+ select * from tAutoJobSchedule where idAutoJob = 12 AND Aktiviert = 1
