@@ -8,6 +8,7 @@
 #include "app/Registration.h"
 #include "common/ErrorExit.h"
 #include "common/ModuleHelpers.h"
+#include "gui/QtBookingLogDisplay.h"
 #include "gui/QtUi.h"
 #include "gui/QtWindowFactory.h"
 #include "host/DemoSummary.h"
@@ -139,6 +140,7 @@ int main(int argc, char* argv[]) {
 
     Services s = makeSuiteServices(config, db, std::make_shared<QtUi>(), clock);
     s.windows = std::make_shared<QtWindowFactory>(nullptr);
+    s.bookingLogDisplay = std::make_shared<QtBookingLogDisplay>();
     registerHostClasses(s);
 
     QList<ToolDecl> menuTools;

@@ -1,5 +1,7 @@
 #include "headless/scenario/ScenarioPlatform.h"
 
+#include "headless/scenario/ScenarioSyntax.h"
+
 #include <QDir>
 #include <QFileInfo>
 
@@ -33,7 +35,7 @@ bool ScenarioShell::Start(const QString& program, const QStringList& arguments, 
 }
 
 bool ScenarioShell::Open(const QString& path) {
-    events_.add(ScenarioEvents::Kind::Shell, QStringLiteral("explorer ") + path);
+    events_.add(ScenarioEvents::Kind::Shell, QStringLiteral("xdg-open ") + path);
     return true;
 }
 
@@ -55,4 +57,26 @@ qint64 LocalFileSystem::FileSize(const QString& path) {
 
 QDateTime LocalFileSystem::DateLastModified(const QString& path) {
     return QFileInfo(path).lastModified();
+}
+
+// Missing parents are made along with the folder: a fresh installation has none of them.
+bool LocalFileSystem::CreateFolder(const QString& path) {
+    return QDir().mkpath(path);
+}
+
+// Where the file system keeps no birth time, the last change of the file's metadata.
+QDateTime LocalFileSystem::DateCreated(const QString& path) {
+    const QFileInfo info(path);
+    const QDateTime birth = info.birthTime();
+    return birth.isValid() ? birth : info.metadataChangeTime();
+}
+
+void ScenarioBookingLogDisplay::show(const BookingLogView& view) {
+    events_.add(
+        ScenarioEvents::Kind::Viewer,
+        quoteText(view.datei) + QLatin1Char(' ') +
+            (view.buchungen ? QStringLiteral("buchungen") : QStringLiteral("status")) +
+            QLatin1Char(' ') + QString::number(view.wirtschaftsjahr) + QLatin1Char(' ') +
+            QString::number(view.mitarbeiter),
+        view.gefunden ? QStringLiteral("Datei gefunden") : QStringLiteral("Datei nicht gefunden"));
 }

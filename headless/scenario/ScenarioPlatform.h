@@ -1,5 +1,6 @@
 #pragma once
 
+#include "common/BookingLogViewer.h"
 #include "common/FileSystem.h"
 #include "common/PlatformUi.h"
 #include "headless/scenario/ScenarioEvents.h"
@@ -37,7 +38,7 @@ class ScenarioPlatform : public PlatformUi {
 };
 
 // Starts no program: writes down each command line (program and arguments joined by blanks;
-// opening a path reads "explorer " and the path).
+// opening a path reads "xdg-open " and the path).
 class ScenarioShell : public Shell {
   public:
     explicit ScenarioShell(ScenarioEvents& events) : events_(events) {}
@@ -56,4 +57,17 @@ class LocalFileSystem : public FileSystemObject {
     QStringList Files(const QString& folder) override;
     qint64 FileSize(const QString& path) override;
     QDateTime DateLastModified(const QString& path) override;
+    bool CreateFolder(const QString& path) override;
+    QDateTime DateCreated(const QString& path) override;
+};
+
+// Shows no window: writes down each use of the booking log viewer as the file in quotes,
+// "buchungen" or "status", the fiscal year and the staff member.
+class ScenarioBookingLogDisplay : public BookingLogDisplay {
+  public:
+    explicit ScenarioBookingLogDisplay(ScenarioEvents& events) : events_(events) {}
+    void show(const BookingLogView& view) override;
+
+  private:
+    ScenarioEvents& events_;
 };

@@ -56,6 +56,7 @@ ScenarioWorld::ScenarioWorld(ScenarioPrompter& prompter,
     Services s = makeSuiteServices(config_, db_, platform_, clock_);
     s.fileSystem = std::make_shared<LocalFileSystem>();
     s.shell = std::make_shared<ScenarioShell>(events_);
+    s.bookingLogDisplay = std::make_shared<ScenarioBookingLogDisplay>(events_);
     s.windows = windows_;
     s.newBasisAbruf = [state = host_, frame = frame_.get()]() -> std::unique_ptr<ZPKyBasisAbruf> {
         return std::make_unique<ScenarioBasis>(state, *frame);
