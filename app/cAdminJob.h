@@ -14,15 +14,20 @@
 #include "common/Host.h"
 #include "common/MessageBox.h"
 #include "common/OptionFileReader.h"
+#include "history/cVerlaufFilter.h"
 #include "jobs/JobRecord.h"
 #include "schedule/cSchedule.h"
 #include "ui/windows/frmZeitIntervall.h"
 
 class cProperties;
+class frmBuchLog;
+class frmBuchLogAbfrage;
 class frmEigenschaften;
 class frmOptTextDatName;
 class frmOptTextDateien;
 class frmPakete;
+class frmVerlauf;
+class frmVerlaufFilter;
 class frmZeitplan;
 class frmZeitplanCopy;
 class IBrowser;
@@ -174,8 +179,49 @@ class cAdminJob {
 
     // ---- Run history and log files (history/) ------------------------------------------
 
+    friend class HistoryTestAccess;
+
     void mInitLogFileLinks();
     void mShowVerlauf(long lJobId, const QString& sJobName);
+    void mInitGridVerlauf();
+    void mFuelleGridVerlauf();
+    QString msGetVerlaufFilterString();
+    QString msGetZeiteinheit(long lArt);
+    QString msGetVerlaufErfolgreichString(std::uint8_t byCode);
+    void mShowFilter();
+    void mShowFilterEigenschaften();
+    void mInitCBO_ZeitWert();
+    void mInitCBO_ZeitEinheit();
+    void mInitCBO_VerlaufsTyp();
+    void mFilterSpeichern();
+    bool mbVerlaufImportdaten();
+    void mloescheVerlauf();
+    void mofrmVerlauf_evFrmVerlaufCMDButtonClicked(int Index);
+    void mofrmFilter_evFrmFilterfCMDButtonClicked(int Index);
+    // Link cells: a click marks, leaving the cell unmarks, a double click follows the mark.
+    void moGridVerlauf_Click();
+    void moGridVerlauf_LeaveCell();
+    void moGridVerlauf_DblClick();
+
+    void mShowBuLogFiles(long lDatenart);
+    void mShowArcLogFiles(long lDatenart);
+    void mShowBuLogFilesData(long lDatenart);
+    void mInitGridBuLog();
+    void mOpenLogFile();
+    void mOpenLogFileBu();
+    bool mbBuchProt(const QString& sDatei);
+    void mofrmBuLog_evFrmBuLogCommandButtonClicked(int Index);
+
+    std::unique_ptr<cVerlaufFilter> moVerlaufFilter;
+    std::shared_ptr<frmVerlauf> mofrmVerlauf;
+    class IGrid* moGridVerlauf = nullptr;
+    std::shared_ptr<frmVerlaufFilter> mofrmFilter;
+    std::shared_ptr<frmBuchLog> mofrmBuLog;
+    class IGrid* moGridBuLog = nullptr;
+    std::shared_ptr<frmBuchLogAbfrage> mofrmBuchLogAbfrage;
+    QString msLogPfadAutoImport;
+    QString msLogPfadJobAgent;
+    QString msJobAgentName;
 
     // ---- Log data viewer (logdata/) ----------------------------------------------------
 

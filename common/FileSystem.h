@@ -14,6 +14,10 @@ class FileSystemObject {
     virtual QStringList Files(const QString& folder) = 0;
     virtual qint64 FileSize(const QString& path) = 0;
     virtual QDateTime DateLastModified(const QString& path) = 0;
+    // A file system that cannot create folders or tell creation times says so: false, and
+    // an invalid time.
+    virtual bool CreateFolder(const QString&) { return false; }
+    virtual QDateTime DateCreated(const QString&) { return {}; }
 };
 
 // Starts programs. A program is started with an argument list, never through a shell.

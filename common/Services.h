@@ -4,6 +4,7 @@
 #include <functional>
 #include <memory>
 
+#include "common/BookingLogViewer.h"
 #include "common/Clock.h"
 #include "common/CoreLibraries.h"
 #include "common/FileSystem.h"
@@ -44,6 +45,9 @@ struct Services {
     Factory<OIMitarbeiterClass> newMitarbeiter;
     Factory<OIMandantClass> newMandant;
     Factory<OptionFileReader> newOptionFileReader;
+    Factory<BookingLogViewer> newBookingLogViewer;
+    // Where the booking log viewer shows what it was asked for.
+    std::shared_ptr<BookingLogDisplay> bookingLogDisplay;
 
     std::shared_ptr<FileSystemObject> fileSystem;
     std::shared_ptr<Shell> shell;

@@ -1,6 +1,31 @@
 #include "gui/QtGrid.h"
 
 #include <QHeaderView>
+#include <QStyledItemDelegate>
+
+namespace {
+
+// A cell with a fore colour of its own keeps it when it is the current cell: its text stands
+// in that colour on a lighter highlight, so that a link stays blue while it is marked.
+class ForeColorDelegate : public QStyledItemDelegate {
+  public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+  protected:
+    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
+        QStyledItemDelegate::initStyleOption(option, index);
+        const QVariant fore = index.data(Qt::ForegroundRole);
+        if (!(option->state & QStyle::State_Selected) || !fore.canConvert<QBrush>() ||
+            fore.value<QBrush>().style() == Qt::NoBrush) {
+            return;
+        }
+        const QColor highlight = option->palette.color(QPalette::Highlight);
+        option->palette.setColor(QPalette::Highlight, highlight.lighter(185));
+        option->palette.setColor(QPalette::HighlightedText, fore.value<QBrush>().color());
+    }
+};
+
+}  // namespace
 
 QtGrid::QtGrid(const ControlDecl& decl, HeadlessWindow& window, QWidget* parent)
     : QtControl(decl, window) {
@@ -14,6 +39,7 @@ QtGrid::QtGrid(const ControlDecl& decl, HeadlessWindow& window, QWidget* parent)
     table_->horizontalHeader()->setHighlightSections(false);
     table_->horizontalHeader()->setStretchLastSection(true);
     table_->setAlternatingRowColors(true);
+    table_->setItemDelegate(new ForeColorDelegate(table_));
 
     QObject::connect(table_, &QTableWidget::cellClicked, guard(),
                      [this](int r, int c) { userCellClicked(r, c, false); });
@@ -45,7 +71,8 @@ QtGrid::QtGrid(const ControlDecl& decl, HeadlessWindow& window, QWidget* parent)
             WidgetCall::run([&] { HeadlessGrid::userGridToggle(row, col); });
         }
     });
-    // The user's keys move the current cell; the grid's Row and Col follow without events.
+    // The user's keys and clicks move the current cell; the grid's Row and Col follow, after
+    // LeaveCell for the cell left.
     QObject::connect(table_, &QTableWidget::currentCellChanged, guard(), [this](int r, int c) {
         const int row = r + headingRows();
         if (updating() || r < 0 || c < 0 || row < FixedRows() || c < FixedCols() || row >= Rows() ||
@@ -53,10 +80,7 @@ QtGrid::QtGrid(const ControlDecl& decl, HeadlessWindow& window, QWidget* parent)
             return;
         }
         setUpdating(true);
-        WidgetCall::run([&] {
-            HeadlessGrid::setRow(row);
-            HeadlessGrid::setCol(c);
-        });
+        WidgetCall::run([&] { userMoveCell(row, c); });
         setUpdating(false);
     });
     attach(table_, table_);

@@ -5,6 +5,47 @@ namespace {
 // A button without a caption opens a choice beside a field.
 const QString kChooseCaption = QStringLiteral("...");
 
+// The caption with its bold marks as rich text: everything else stands as written, lines
+// break at CR LF, and lines holding a tab become rows of two aligned columns.
+QString boldMarksAsHtml(const QString& caption) {
+    auto inline_ = [](const QString& text) {
+        QString html = text.toHtmlEscaped();
+        html.replace(QStringLiteral("&lt;b&gt;"), QStringLiteral("<b>"));
+        html.replace(QStringLiteral("&lt;/b&gt;"), QStringLiteral("</b>"));
+        return html;
+    };
+    QString html;
+    bool inTable = false;
+    const QStringList lines =
+        QString(caption).replace(QStringLiteral("\r\n"), QStringLiteral("\n")).split(u'\n');
+    for (int i = 0; i < lines.size(); ++i) {
+        const QString& line = lines.at(i);
+        const qsizetype tab = line.indexOf(u'\t');
+        if (tab >= 0) {
+            if (!inTable) {
+                html += QStringLiteral("<table cellspacing=\"0\" cellpadding=\"1\">");
+                inTable = true;
+            }
+            html += QStringLiteral("<tr><td>") + inline_(line.left(tab)) +
+                    QStringLiteral("</td><td>&nbsp;&nbsp;&nbsp;") + inline_(line.mid(tab + 1)) +
+                    QStringLiteral("</td></tr>");
+            continue;
+        }
+        if (inTable) {
+            html += QStringLiteral("</table>");
+            inTable = false;
+        }
+        html += inline_(line);
+        if (i + 1 < lines.size()) {
+            html += QStringLiteral("<br>");
+        }
+    }
+    if (inTable) {
+        html += QStringLiteral("</table>");
+    }
+    return html;
+}
+
 }  // namespace
 
 // --- label ---
@@ -12,13 +53,13 @@ const QString kChooseCaption = QStringLiteral("...");
 QtLabel::QtLabel(const ControlDecl& decl, HeadlessWindow& window, QWidget* parent)
     : QtControl(decl, window) {
     label_ = new QLabel(parent);
-    label_->setTextFormat(Qt::PlainText);
+    label_->setTextFormat(decl.boldMarks ? Qt::RichText : Qt::PlainText);
     label_->setWordWrap(true);
     attach(label_, nullptr);
 }
 
 void QtLabel::refresh() {
-    label_->setText(Caption());
+    label_->setText(decl().boldMarks ? boldMarksAsHtml(Caption()) : Caption());
     const QColor color = classicColor(ForeColor());
     QPalette palette;
     if (color.isValid()) {

@@ -318,14 +318,27 @@ bool HeadlessGrid::focusAndMove(int row, int col) {
     if (!Focused() && !window().moveFocus(*this)) {
         return false;
     }
-    if (row >= fixedRows_) {
+    userMoveCell(row >= fixedRows_ ? row : row_, col >= fixedCols_ ? col : col_);
+    return true;
+}
+
+void HeadlessGrid::userMoveCell(int row, int col) {
+    if (row == row_ && col == col_) {
+        return;
+    }
+    if (row_ >= 0 && col_ >= 0) {
+        ControlEvent e = makeEvent(EventType::LeaveCell);
+        e.row = row_;
+        e.col = col_;
+        raise(e);
+    }
+    if (row >= 0 && row < Rows()) {
         row_ = row;
     }
-    if (col >= fixedCols_) {
+    if (col >= 0 && col < cols_) {
         col_ = col;
     }
     stateChanged();
-    return true;
 }
 
 void HeadlessGrid::userGridClick(int row, int col, bool doubleClick) {

@@ -83,7 +83,8 @@ class HeadlessGrid : public HeadlessControl, public IGrid {
     QChar ColFormatAlignment(int col) const;
 
     // The grid gets the focus (GotFocus if it did not have it), the current cell moves there
-    // (not into fixed rows or columns), then Click or DblClick with row and col.
+    // (not into fixed rows or columns; LeaveCell first when it changes), then Click or
+    // DblClick with row and col.
     void userGridClick(int row, int col, bool doubleClick) override;
     // Toggles the tick of a data cell of a boolean column of an editable grid, after focus
     // and current cell as a click; then AfterEdit with row and col. Refused otherwise.
@@ -91,6 +92,9 @@ class HeadlessGrid : public HeadlessControl, public IGrid {
 
   protected:
     virtual void cellChanged(int row, int col);
+    // The user moves the current cell: LeaveCell with the cell it leaves, when there is one
+    // and it differs, then the move.
+    void userMoveCell(int row, int col);
 
   private:
     struct GridRow {

@@ -2,6 +2,7 @@
 
 #include "common/Clock.h"
 #include "common/ModuleHelpers.h"
+#include "gui/QtBookingLogDisplay.h"
 #include "gui/QtUi.h"
 #include "gui/QtWindowFactory.h"
 #include "host/DesktopSession.h"
@@ -27,9 +28,9 @@ QList<ToolDecl> menuTools() {
 
 Services desktopServices(std::shared_ptr<SuiteConfig> config, std::shared_ptr<Database> db) {
     auto clock = std::make_shared<SystemClock>();
-    return composeProgramServices({std::move(config), std::move(db), clock,
-                                   std::make_shared<QtUi>(),
-                                   std::make_shared<QtWindowFactory>(nullptr)});
+    return composeProgramServices(
+        {std::move(config), std::move(db), clock, std::make_shared<QtUi>(),
+         std::make_shared<QtWindowFactory>(nullptr), std::make_shared<QtBookingLogDisplay>()});
 }
 
 DesktopProgram::DesktopProgram(std::shared_ptr<SuiteConfig> config)

@@ -10,6 +10,7 @@ Services composeProgramServices(const ProgramParts& parts) {
     s.fileSystem = std::make_shared<LocalFileSystem>();
     s.shell = std::make_shared<ProcessShell>();
     s.windows = parts.windows;
+    s.bookingLogDisplay = parts.bookingLogDisplay;
     registerHostClasses(s);
     return s;
 }

@@ -9,13 +9,15 @@
 class IWindowFactory;
 
 // What the program is composed of besides the suite's parts: the database, the clock, the
-// platform's dialogs and the window kit.
+// platform's dialogs and the window kit with the booking log viewer's window.
 struct ProgramParts {
     std::shared_ptr<SuiteConfig> config;
     std::shared_ptr<Database> db;
     std::shared_ptr<IClock> clock;
     std::shared_ptr<PlatformUi> ui;
     std::shared_ptr<IWindowFactory> windows;
+    // Where the booking log viewer shows its window.
+    std::shared_ptr<BookingLogDisplay> bookingLogDisplay;
 };
 
 // Every service of the program: the record sets on the database, the suite's libraries, the

@@ -22,3 +22,15 @@ qint64 LocalFileSystem::FileSize(const QString& path) {
 QDateTime LocalFileSystem::DateLastModified(const QString& path) {
     return QFileInfo(path).lastModified();
 }
+
+// Missing parents are made along with the folder: a fresh installation has none of them.
+bool LocalFileSystem::CreateFolder(const QString& path) {
+    return QDir().mkpath(path);
+}
+
+// Where the file system keeps no birth time, the last change of the file's metadata.
+QDateTime LocalFileSystem::DateCreated(const QString& path) {
+    const QFileInfo info(path);
+    const QDateTime birth = info.birthTime();
+    return birth.isValid() ? birth : info.metadataChangeTime();
+}

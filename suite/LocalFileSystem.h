@@ -10,4 +10,6 @@ class LocalFileSystem : public FileSystemObject {
     QStringList Files(const QString& folder) override;
     qint64 FileSize(const QString& path) override;
     QDateTime DateLastModified(const QString& path) override;
+    bool CreateFolder(const QString& path) override;
+    QDateTime DateCreated(const QString& path) override;
 };

@@ -3,6 +3,7 @@
 #include <QDir>
 #include <QFileInfo>
 
+#include "suite/BookingLogViewerStandIn.h"
 #include "suite/CoreStandIns.h"
 #include "suite/CoreTexte.h"
 #include "suite/CoreTools.h"
@@ -26,6 +27,7 @@ Services makeSuiteServices(std::shared_ptr<SuiteConfig> config, std::shared_ptr<
     s.newMitarbeiter = [] { return std::make_unique<SuiteMitarbeiter>(); };
     s.newMandant = [] { return std::make_unique<SuiteMandant>(); };
     s.newOptionFileReader = [] { return std::make_unique<TextOptionFileReader>(); };
+    s.newBookingLogViewer = [] { return std::make_unique<SuiteBookingLogViewer>(); };
     s.coreGlobal = std::make_shared<SuiteCoreGlobal>(config);
     s.coreTexte = std::make_shared<SuiteCoreTexte>();
     return s;

@@ -17,6 +17,7 @@ enum class EventType {
     Open,              // browser: double click or Enter on a row (row)
     TabClick,          // tab control switched by the user (row = previous page)
     Timer,             // timer tick
+    LeaveCell,         // grid: the user moves the current cell away from (row, col)
 };
 
 struct ControlEvent {

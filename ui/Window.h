@@ -28,6 +28,7 @@ struct ControlDecl {
     QStringList tabCaptions;  // tab control: the pages' captions
     int interval = 0;         // timer: milliseconds
     bool editable = false;    // grid: the user may edit cells (the grid's design-time Editable)
+    bool boldMarks = false;   // label: "<b>" and "</b>" in the caption mark bold text
 };
 
 // A tool of a bar, in the order of its band.

@@ -97,6 +97,27 @@ void expectEvent(ScenarioPlay& play, const ScenarioCommand& c, ScenarioEvents::K
     }
 }
 
+// expect viewer "<file>" buchungen|status <fiscal year id> <staff id>
+void expectViewer(ScenarioPlay& play, const ScenarioCommand& c) {
+    c.expectArgs(5, 5);
+    const QString display = c.arg(2).raw;
+    if (display != QLatin1String("buchungen") && display != QLatin1String("status")) {
+        scenarioFail(QStringLiteral("expect viewer takes buchungen or status"));
+    }
+    const QString expected = quoteText(c.text(1)) + QLatin1Char(' ') + display + QLatin1Char(' ') +
+                             QString::number(c.integer(3)) + QLatin1Char(' ') +
+                             QString::number(c.integer(4));
+    const auto entry = play.world().events().take(ScenarioEvents::Kind::Viewer);
+    if (!entry) {
+        scenarioFail(
+            QStringLiteral("the booking log viewer was not used (expected %1)").arg(expected));
+    }
+    if (entry->text != expected) {
+        scenarioFail(QStringLiteral("the booking log viewer showed %1, expected %2")
+                         .arg(entry->text, expected));
+    }
+}
+
 void expectNotified(ScenarioPlay& play, const ScenarioCommand& c) {
     c.expectArgs(2, 2);
     const long code = c.integer(1);
@@ -181,6 +202,9 @@ void expectCommand(ScenarioPlay& play, const ScenarioCommand& c) {
         if (first.raw == QLatin1String("error")) {
             return expectEvent(play, c, ScenarioEvents::Kind::Error,
                                QStringLiteral("error report's procedure"));
+        }
+        if (first.raw == QLatin1String("viewer")) {
+            return expectViewer(play, c);
         }
         if (first.raw == QLatin1String("notified")) {
             return expectNotified(play, c);

@@ -30,6 +30,7 @@ std::optional<std::pair<ScenarioEvents::Entry, QString>> ScenarioEvents::firstUn
     consider(shell_, QStringLiteral("the program start"));
     consider(help_, QStringLiteral("the help call"));
     consider(errors_, QStringLiteral("the error report from"));
+    consider(viewer_, QStringLiteral("the booking log viewer's use"));
     return first;
 }
 
@@ -39,6 +40,8 @@ QList<ScenarioEvents::Entry>& ScenarioEvents::list(Kind kind) {
             return shell_;
         case Kind::Help:
             return help_;
+        case Kind::Viewer:
+            return viewer_;
         case Kind::Error:
             break;
     }

@@ -11,11 +11,12 @@
 class ScenarioEvents {
   public:
     struct Entry {
-        QString text;    // the command line, the help topic, the error's procedure
+        QString text;    // the command line, the help topic, the error's procedure, the
+                         // viewer's file, display, fiscal year and staff member
         QString detail;  // for an error report: its number and description
         int line = 0;
     };
-    enum class Kind { Shell, Help, Error };
+    enum class Kind { Shell, Help, Error, Viewer };
 
     // The line that is being played; set by the runner.
     void setLineSource(std::function<int()> source) { lineSource_ = std::move(source); }
@@ -32,6 +33,7 @@ class ScenarioEvents {
     QList<Entry> shell_;
     QList<Entry> help_;
     QList<Entry> errors_;
+    QList<Entry> viewer_;
     std::function<int()> lineSource_;
 };
 

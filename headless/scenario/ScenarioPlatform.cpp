@@ -1,5 +1,7 @@
 #include "headless/scenario/ScenarioPlatform.h"
 
+#include "headless/scenario/ScenarioSyntax.h"
+
 #include <QDir>
 #include <QFileInfo>
 
@@ -35,4 +37,14 @@ bool ScenarioShell::Start(const QString& program, const QStringList& arguments, 
 bool ScenarioShell::Open(const QString& path) {
     events_.add(ScenarioEvents::Kind::Shell, QStringLiteral("xdg-open ") + path);
     return true;
+}
+
+void ScenarioBookingLogDisplay::show(const BookingLogView& view) {
+    events_.add(
+        ScenarioEvents::Kind::Viewer,
+        quoteText(view.datei) + QLatin1Char(' ') +
+            (view.buchungen ? QStringLiteral("buchungen") : QStringLiteral("status")) +
+            QLatin1Char(' ') + QString::number(view.wirtschaftsjahr) + QLatin1Char(' ') +
+            QString::number(view.mitarbeiter),
+        view.gefunden ? QStringLiteral("Datei gefunden") : QStringLiteral("Datei nicht gefunden"));
 }

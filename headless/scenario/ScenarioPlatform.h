@@ -1,5 +1,6 @@
 #pragma once
 
+#include "common/BookingLogViewer.h"
 #include "common/FileSystem.h"
 #include "common/PlatformUi.h"
 #include "headless/scenario/ScenarioEvents.h"
@@ -43,6 +44,16 @@ class ScenarioShell : public Shell {
     explicit ScenarioShell(ScenarioEvents& events) : events_(events) {}
     bool Start(const QString& program, const QStringList& arguments, int windowStyle) override;
     bool Open(const QString& path) override;
+
+  private:
+    ScenarioEvents& events_;
+};
+// Shows no window: writes down each use of the booking log viewer as the file in quotes,
+// "buchungen" or "status", the fiscal year and the staff member.
+class ScenarioBookingLogDisplay : public BookingLogDisplay {
+  public:
+    explicit ScenarioBookingLogDisplay(ScenarioEvents& events) : events_(events) {}
+    void show(const BookingLogView& view) override;
 
   private:
     ScenarioEvents& events_;

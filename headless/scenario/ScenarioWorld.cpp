@@ -53,8 +53,10 @@ ScenarioWorld::ScenarioWorld(ScenarioPrompter& prompter,
     }
 
     // The program's own composition; the scenario controls the clock, the platform's
-    // dialogs, the shell (a recorder), the window kit and, as host, the base object.
-    Services s = composeProgramServices({config_, db_, clock_, platform_, windows_});
+    // dialogs, the shell (a recorder), the window kit with the booking log viewer's window
+    // (a recorder) and, as host, the base object.
+    Services s = composeProgramServices({config_, db_, clock_, platform_, windows_,
+                                         std::make_shared<ScenarioBookingLogDisplay>(events_)});
     s.shell = std::make_shared<ScenarioShell>(events_);
     s.newBasisAbruf = [state = host_, frame = frame_.get()]() -> std::unique_ptr<ZPKyBasisAbruf> {
         return std::make_unique<ScenarioBasis>(state, *frame);

@@ -316,7 +316,7 @@ class World {
   private:
     Services makeServices() {
         config->paths[41] = kProgrammDir;
-        Services s = composeProgramServices({config, db, clock, ui, windows});
+        Services s = composeProgramServices({config, db, clock, ui, windows, nullptr});
         db->applySchema();
         db->runScript(
             QStringLiteral("INSERT INTO tMitarbeiter (MitId, Name) VALUES (1, 'Anna Admin');"

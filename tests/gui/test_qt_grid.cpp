@@ -70,13 +70,14 @@ TEST_F(QtGridTest, ToggleOfABooleanCellRaisesAfterEdit) {
     grid().userGridToggle(2, 1);
     EXPECT_TRUE(grid().CellChecked(2, 1));
     EXPECT_EQ(table()->item(1, 1)->checkState(), Qt::Checked);
-    EXPECT_EQ(w.take(), (QStringList{"GotFocus grdBeleg", "AfterEdit grdBeleg 2,1"}));
+    EXPECT_EQ(w.take(), (QStringList{"GotFocus grdBeleg", "LeaveCell grdBeleg 1,0",
+                                     "AfterEdit grdBeleg 2,1"}));
 
     // The user's tick in the widget takes the same way.
     table()->item(0, 1)->setCheckState(Qt::Checked);
     EXPECT_TRUE(grid().CellChecked(1, 1));
     EXPECT_EQ(grid().Row(), 1);
-    EXPECT_EQ(w.take(), QStringList{"AfterEdit grdBeleg 1,1"});
+    EXPECT_EQ(w.take(), (QStringList{"LeaveCell grdBeleg 2,1", "AfterEdit grdBeleg 1,1"}));
     EXPECT_THROW(grid().userGridToggle(1, 0), RaisedError);
 }
 
@@ -87,13 +88,16 @@ TEST_F(QtGridTest, ClicksMoveTheCurrentCellAndRaiseClickOrDblClick) {
     EXPECT_EQ(table()->currentRow(), 1);
     grid().userGridClick(1, 2, true);
     grid().userGridClick(0, 1, false);  // the heading
-    EXPECT_EQ(w.take(), (QStringList{"GotFocus grdBeleg", "Click grdBeleg 2,0",
-                                     "DblClick grdBeleg 1,2", "Click grdBeleg 0,1"}));
+    // Each move of the current cell is told first with the cell it leaves.
+    EXPECT_EQ(w.take(),
+              (QStringList{"GotFocus grdBeleg", "LeaveCell grdBeleg 1,0", "Click grdBeleg 2,0",
+                           "LeaveCell grdBeleg 2,0", "DblClick grdBeleg 1,2",
+                           "LeaveCell grdBeleg 1,2", "Click grdBeleg 0,1"}));
 
     const QRect cell = table()->visualItemRect(table()->item(1, 0));
     // The real mouse: a click, and the second click of a double click.
     QTest::mouseClick(table()->viewport(), Qt::LeftButton, {}, cell.center());
-    EXPECT_EQ(w.take(), QStringList{"Click grdBeleg 2,0"});
+    EXPECT_EQ(w.take(), (QStringList{"LeaveCell grdBeleg 1,1", "Click grdBeleg 2,0"}));
     QTest::mouseDClick(table()->viewport(), Qt::LeftButton, {}, cell.center());
     EXPECT_TRUE(w.take().contains("DblClick grdBeleg 2,0"));
 }

@@ -51,6 +51,8 @@ inline const char* typeName(EventType t) {
             return "TabClick";
         case EventType::Timer:
             return "Timer";
+        case EventType::LeaveCell:
+            return "LeaveCell";
     }
     return "?";
 }
@@ -69,6 +71,7 @@ inline QString describe(const ControlEvent& e) {
         case EventType::Click:
         case EventType::DblClick:
         case EventType::AfterEdit:
+        case EventType::LeaveCell:
             if (e.row || e.col) {
                 s += QStringLiteral(" %1,%2").arg(e.row).arg(e.col);
             }

@@ -107,7 +107,8 @@ TEST_F(GridTest, ToggleFlipsABooleanCellOfAnEditableGridThenAfterEdit) {
     EXPECT_TRUE(beleg.CellChecked(2, 1));
     EXPECT_EQ(beleg.Row(), 2);
     EXPECT_EQ(beleg.Col(), 1);
-    EXPECT_EQ(w.take(), (QStringList{"GotFocus grdBeleg", "AfterEdit grdBeleg 2,1"}));
+    EXPECT_EQ(w.take(), (QStringList{"GotFocus grdBeleg", "LeaveCell grdBeleg 1,0",
+                                     "AfterEdit grdBeleg 2,1"}));
     w.control("grdBeleg").userGridToggle(2, 1);
     EXPECT_FALSE(beleg.CellChecked(2, 1));
     EXPECT_EQ(w.take(), QStringList{"AfterEdit grdBeleg 2,1"});
@@ -137,21 +138,22 @@ TEST_F(GridTest, ClickGivesTheFocusOnceMovesTheCellThenClickOrDblClick) {
     w.take();
 
     w.control("grdZeitplan").userGridClick(2, 1, false);
+    // A move of the current cell is told first, with the cell it leaves.
     EXPECT_EQ(w.take(), (QStringList{"LostFocus txtTextBox(0)", "GotFocus grdZeitplan",
-                                     "Click grdZeitplan 2,1"}));
+                                     "LeaveCell grdZeitplan 1,0", "Click grdZeitplan 2,1"}));
     EXPECT_EQ(zeitplan.Row(), 2);
     EXPECT_EQ(zeitplan.Col(), 1);
     EXPECT_TRUE(zeitplan.Focused());
 
     w.control("grdZeitplan").userGridClick(1, 0, true);
-    EXPECT_EQ(w.take(), QStringList{"DblClick grdZeitplan 1,0"});
+    EXPECT_EQ(w.take(), (QStringList{"LeaveCell grdZeitplan 2,1", "DblClick grdZeitplan 1,0"}));
     EXPECT_EQ(zeitplan.Row(), 1);
 
     // A click on the heading leaves the current row.
     w.control("grdZeitplan").userGridClick(0, 2, false);
     EXPECT_EQ(zeitplan.Row(), 1);
     EXPECT_EQ(zeitplan.Col(), 2);
-    EXPECT_EQ(w.take(), QStringList{"Click grdZeitplan 0,2"});
+    EXPECT_EQ(w.take(), (QStringList{"LeaveCell grdZeitplan 1,0", "Click grdZeitplan 0,2"}));
 
     EXPECT_THROW(w.control("grdZeitplan").userGridClick(3, 0, false), RaisedError);
     w.control("grdZeitplan").userKey(KeyCode::Delete, 0);

@@ -46,6 +46,8 @@ std::map<QString, QString> describe(const Services& s) {
         {QStringLiteral("newMitarbeiter"), product(s.newMitarbeiter)},
         {QStringLiteral("newMandant"), product(s.newMandant)},
         {QStringLiteral("newOptionFileReader"), product(s.newOptionFileReader)},
+        {QStringLiteral("newBookingLogViewer"), product(s.newBookingLogViewer)},
+        {QStringLiteral("bookingLogDisplay"), typeOf(s.bookingLogDisplay.get())},
         {QStringLiteral("fileSystem"), typeOf(s.fileSystem.get())},
         {QStringLiteral("shell"), typeOf(s.shell.get())},
         {QStringLiteral("windows"), typeOf(s.windows.get())},
@@ -81,9 +83,10 @@ TEST_F(ProgramServicesTest, ScenarioWorldReplacesOnlyWhatAScenarioControls) {
         ScenarioWorld scenario(prompter, std::make_shared<HeadlessWindowFactory>());
         world = describe(services());
     }
-    const QSet<QString> controlled{QStringLiteral("clock"), QStringLiteral("ui"),
-                                   QStringLiteral("shell"), QStringLiteral("windows"),
-                                   QStringLiteral("newBasisAbruf")};
+    const QSet<QString> controlled{
+        QStringLiteral("clock"),         QStringLiteral("ui"),
+        QStringLiteral("shell"),         QStringLiteral("windows"),
+        QStringLiteral("newBasisAbruf"), QStringLiteral("bookingLogDisplay")};
     for (const auto& [name, type] : program) {
         EXPECT_FALSE(world.at(name).isEmpty()) << name.toStdString() << " is empty in the world";
         if (!controlled.contains(name)) {

@@ -1,0 +1,58 @@
+#include "ui/windows/frmBuchLog.h"
+
+using contract::fire;
+using contract::is;
+
+namespace {
+
+constexpr int kOeffnen = 1;
+
+ControlDecl control(const char* name, int index, ControlKind kind, const char* caption = "",
+                    const char* hint = "") {
+    ControlDecl c;
+    c.name = QString::fromUtf8(name);
+    c.index = index;
+    c.kind = kind;
+    c.caption = QString::fromUtf8(caption);
+    c.hint = QString::fromUtf8(hint);
+    return c;
+}
+
+WindowDecl makeDeclaration() {
+    WindowDecl d;
+    d.name = QStringLiteral("frmBuchLog");
+    d.caption = QStringLiteral("Logfiles für importierte Buchungen");
+    d.width = 700;
+    d.height = 400;
+    d.controls << control("txtTextBox", -1, ControlKind::TextBox, "Adresse")
+               << control("grdData", -1, ControlKind::Grid)
+               << control("lblLabel", -1, ControlKind::Label)
+               << control("cmdCommandButton", 1, ControlKind::Button, "Öffnen", "Datei öffnen")
+               << control("cmdCommandButton", 2, ControlKind::Button, "Explorer", "Exporer öffnen")
+               << control("cmdCommandButton", 0, ControlKind::Button, "Schließen");
+    return d;
+}
+
+}  // namespace
+
+const WindowDecl& frmBuchLog::declaration() {
+    static const WindowDecl decl = makeDeclaration();
+    return decl;
+}
+
+frmBuchLog::frmBuchLog(std::unique_ptr<IWindow> w) : WindowContract(std::move(w)) {
+    WindowEvents events;
+    events.onControl = [this](const ControlEvent& e) { onControl(e); };
+    window().setEvents(std::move(events));
+    // The address shows where the files lie; it is not typed into.
+    txtTextBox().setLocked(true);
+}
+
+void frmBuchLog::onControl(const ControlEvent& e) {
+    if (e.type == EventType::Click && is(e, "cmdCommandButton")) {
+        fire(evFrmBuLogCommandButtonClicked, e.index);
+    } else if (e.type == EventType::DblClick && is(e, "grdData") && e.row > 0 &&
+               cmdCommandButton(kOeffnen).Enabled()) {
+        fire(evFrmBuLogCommandButtonClicked, kOeffnen);
+    }
+}

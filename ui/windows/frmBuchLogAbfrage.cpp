@@ -1,0 +1,47 @@
+#include "ui/windows/frmBuchLogAbfrage.h"
+
+using contract::is;
+
+namespace {
+
+ControlDecl control(const char* name, int index, ControlKind kind, const char* caption = "") {
+    ControlDecl c;
+    c.name = QString::fromUtf8(name);
+    c.index = index;
+    c.kind = kind;
+    c.caption = QString::fromUtf8(caption);
+    return c;
+}
+
+WindowDecl makeDeclaration() {
+    WindowDecl d;
+    d.name = QStringLiteral("frmBuchLogAbfrage");
+    d.caption = QStringLiteral("Logfiles für importierte Buchungen");
+    d.width = 460;
+    d.height = 170;
+    ControlDecl text = control("ctlBuchunglog", -1, ControlKind::Label);
+    text.boldMarks = true;
+    d.controls << text << control("cmdProtBuch", 0, ControlKind::Button, "Status")
+               << control("cmdProtBuch", 1, ControlKind::Button, "Buchungen");
+    return d;
+}
+
+}  // namespace
+
+const WindowDecl& frmBuchLogAbfrage::declaration() {
+    static const WindowDecl decl = makeDeclaration();
+    return decl;
+}
+
+frmBuchLogAbfrage::frmBuchLogAbfrage(std::unique_ptr<IWindow> w) : WindowContract(std::move(w)) {
+    WindowEvents events;
+    events.onControl = [this](const ControlEvent& e) { onControl(e); };
+    window().setEvents(std::move(events));
+}
+
+void frmBuchLogAbfrage::onControl(const ControlEvent& e) {
+    if (e.type == EventType::Click && is(e, "cmdProtBuch")) {
+        buchProtokoll_ = e.index == 1;
+        window().Unload();
+    }
+}

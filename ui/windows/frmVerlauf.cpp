@@ -1,0 +1,75 @@
+#include "ui/windows/frmVerlauf.h"
+
+using contract::fire;
+using contract::is;
+
+namespace {
+
+ControlDecl control(const char* name, int index, ControlKind kind, const char* caption = "",
+                    const char* hint = "") {
+    ControlDecl c;
+    c.name = QString::fromUtf8(name);
+    c.index = index;
+    c.kind = kind;
+    c.caption = QString::fromUtf8(caption);
+    c.hint = QString::fromUtf8(hint);
+    return c;
+}
+
+WindowDecl makeDeclaration() {
+    WindowDecl d;
+    d.name = QStringLiteral("frmVerlauf");
+    d.caption = QStringLiteral("Auftragsverlauf");
+    d.width = 760;
+    d.height = 420;
+    d.controls << control("lblLabel", 0, ControlKind::Label, "Auftragsname: ")
+               << control("grdData", -1, ControlKind::Grid)
+               << control("lblLabel", 1, ControlKind::Label)
+               << control("cmdCommandButton", 1, ControlKind::Button, "Filter", "Filter setzen")
+               << control("cmdCommandButton", 2, ControlKind::Button, "Verlauf löschen",
+                          "Löscht der Verlauf")
+               << control("cmdCommandButton", 0, ControlKind::Button, "Schließen");
+    return d;
+}
+
+}  // namespace
+
+const WindowDecl& frmVerlauf::declaration() {
+    static const WindowDecl decl = makeDeclaration();
+    return decl;
+}
+
+frmVerlauf::frmVerlauf(std::unique_ptr<IWindow> w) : WindowContract(std::move(w)) {
+    WindowEvents events;
+    events.onControl = [this](const ControlEvent& e) { onControl(e); };
+    window().setEvents(std::move(events));
+}
+
+void frmVerlauf::VerzeichnisOeffnen() {
+    fire(evFrmVerlaufCMDButtonVerzeichnisOeffnenClicked);
+}
+
+void frmVerlauf::onControl(const ControlEvent& e) {
+    if (is(e, "cmdCommandButton")) {
+        if (e.type == EventType::Click) {
+            fire(evFrmVerlaufCMDButtonClicked, e.index);
+        }
+        return;
+    }
+    if (!is(e, "grdData")) {
+        return;
+    }
+    switch (e.type) {
+        case EventType::Click:
+            fire(evGrdDataClick);
+            break;
+        case EventType::DblClick:
+            fire(evGrdDataDblClick);
+            break;
+        case EventType::LeaveCell:
+            fire(evGrdDataLeaveCell);
+            break;
+        default:
+            break;
+    }
+}

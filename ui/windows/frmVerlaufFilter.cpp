@@ -1,0 +1,48 @@
+#include "ui/windows/frmVerlaufFilter.h"
+
+using contract::fire;
+using contract::is;
+
+namespace {
+
+ControlDecl control(const char* name, int index, ControlKind kind, const char* caption) {
+    ControlDecl c;
+    c.name = QString::fromUtf8(name);
+    c.index = index;
+    c.kind = kind;
+    c.caption = QString::fromUtf8(caption);
+    return c;
+}
+
+WindowDecl makeDeclaration() {
+    WindowDecl d;
+    d.name = QStringLiteral("frmVerlaufFilter");
+    d.caption = QStringLiteral("Filter auswählen");
+    d.width = 340;
+    d.height = 140;
+    d.controls << control("cboComboBox", 0, ControlKind::ComboBox, "Zeitraum")
+               << control("cboComboBox", 1, ControlKind::ComboBox, "Zeitraum")
+               << control("cboComboBox", 2, ControlKind::ComboBox, "Typ")
+               << control("cmdCommandButton", 0, ControlKind::Button, "OK")
+               << control("cmdCommandButton", 1, ControlKind::Button, "Abbrechen");
+    return d;
+}
+
+}  // namespace
+
+const WindowDecl& frmVerlaufFilter::declaration() {
+    static const WindowDecl decl = makeDeclaration();
+    return decl;
+}
+
+frmVerlaufFilter::frmVerlaufFilter(std::unique_ptr<IWindow> w) : WindowContract(std::move(w)) {
+    WindowEvents events;
+    events.onControl = [this](const ControlEvent& e) { onControl(e); };
+    window().setEvents(std::move(events));
+}
+
+void frmVerlaufFilter::onControl(const ControlEvent& e) {
+    if (e.type == EventType::Click && is(e, "cmdCommandButton")) {
+        fire(evFrmFilterfCMDButtonClicked, e.index);
+    }
+}
