@@ -3,6 +3,7 @@
 #include <QHash>
 
 #include "gui/LayoutFrmEigenschaften.h"
+#include "gui/LayoutFrmLogDaten.h"
 #include "gui/LayoutFrmPakete.h"
 #include "gui/LayoutFrmZeitIntervall.h"
 #include "gui/LayoutFrmZeitplan.h"
@@ -15,6 +16,7 @@ QHash<QString, QtLayout>& registered() {
         {QStringLiteral("frmeigenschaften"), &layoutFrmEigenschaften},
         {QStringLiteral("frmzeitintervall"), &layoutFrmZeitIntervall},
         {QStringLiteral("frmzeitplan"), &layoutFrmZeitplan},
+        {QStringLiteral("frmlogdaten"), &layoutFrmLogDaten},
     };
     return layouts;
 }
