@@ -4,6 +4,7 @@
 
 #include "gui/LayoutFrmEigenschaften.h"
 #include "gui/LayoutFrmLogDaten.h"
+#include "gui/LayoutFrmLogDatenDetails.h"
 #include "gui/LayoutFrmPakete.h"
 #include "gui/LayoutFrmZeitIntervall.h"
 #include "gui/LayoutFrmZeitplan.h"
@@ -17,6 +18,7 @@ QHash<QString, QtLayout>& registered() {
         {QStringLiteral("frmzeitintervall"), &layoutFrmZeitIntervall},
         {QStringLiteral("frmzeitplan"), &layoutFrmZeitplan},
         {QStringLiteral("frmlogdaten"), &layoutFrmLogDaten},
+        {QStringLiteral("frmlogdatendetails"), &layoutFrmLogDatenDetails},
     };
     return layouts;
 }
