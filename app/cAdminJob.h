@@ -19,6 +19,7 @@
 #include "schedule/cSchedule.h"
 #include "ui/windows/frmZeitIntervall.h"
 
+class cLogDaten;
 class cProperties;
 class frmBuchLog;
 class frmBuchLogAbfrage;
@@ -226,6 +227,9 @@ class cAdminJob {
     // ---- Log data viewer (logdata/) ----------------------------------------------------
 
     void mLogdatenShowCls(long lLogArt, bool bLoeschen, long lJobId);
+
+    // The viewer of the running command; empty between commands.
+    std::shared_ptr<cLogDaten> moLogDaten;
 
     // ---- Schedules (schedule/AdminJobSchedule.cpp, schedule/AdminJobScheduleSentence.cpp) --
 

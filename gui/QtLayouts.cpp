@@ -3,6 +3,8 @@
 #include <QHash>
 
 #include "gui/LayoutFrmEigenschaften.h"
+#include "gui/LayoutFrmLogDaten.h"
+#include "gui/LayoutFrmLogDatenDetails.h"
 #include "gui/LayoutFrmPakete.h"
 #include "gui/LayoutFrmZeitIntervall.h"
 #include "gui/LayoutFrmZeitplan.h"
@@ -17,6 +19,8 @@ QHash<QString, QtLayout>& registered() {
         {QStringLiteral("frmzeitintervall"), &layoutFrmZeitIntervall},
         {QStringLiteral("frmzeitplan"), &layoutFrmZeitplan},
         {QStringLiteral("frmzeitplancopy"), &layoutFrmZeitplanCopy},
+        {QStringLiteral("frmlogdaten"), &layoutFrmLogDaten},
+        {QStringLiteral("frmlogdatendetails"), &layoutFrmLogDatenDetails},
     };
     return layouts;
 }

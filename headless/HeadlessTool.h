@@ -18,9 +18,9 @@ class HeadlessTool : public ITool {
 
     QString Name() const override { return name_; }
     QString Caption() const override { return caption_; }
-    void setCaption(const QString& text);
+    void setCaption(const QString& text) override;
     QString ToolTip() const override { return toolTip_; }
-    void setToolTip(const QString& text);
+    void setToolTip(const QString& text) override;
     bool Enabled() const override { return enabled_; }
     void setEnabled(bool on) override;
     bool Visible() const override { return visible_; }

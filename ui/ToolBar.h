@@ -12,7 +12,10 @@ class ITool {
     virtual ~ITool() = default;
     virtual QString Name() const = 0;
     virtual QString Caption() const = 0;
+    // A display tool shows its state in its caption.
+    virtual void setCaption(const QString& text) = 0;
     virtual QString ToolTip() const = 0;
+    virtual void setToolTip(const QString& text) = 0;
     virtual bool Enabled() const = 0;
     virtual void setEnabled(bool on) = 0;
     virtual bool Visible() const = 0;

@@ -1,0 +1,50 @@
+#include "ui/windows/frmLogDatenDel.h"
+
+using contract::fire;
+using contract::is;
+
+namespace {
+
+ControlDecl control(const char* name, int index, ControlKind kind, const char* caption) {
+    ControlDecl c;
+    c.name = QString::fromUtf8(name);
+    c.index = index;
+    c.kind = kind;
+    c.caption = QString::fromUtf8(caption);
+    return c;
+}
+
+WindowDecl makeDeclaration() {
+    WindowDecl d;
+    d.name = QStringLiteral("frmLogDatenDel");
+    d.caption = QStringLiteral("Logdaten löschen");
+    d.width = 440;
+    d.height = 150;
+    d.controls << control("lblAuftragName", -1, ControlKind::Label,
+                          "Logdaten für '<Auftrag>' löschen!")
+               << control("cboAuftragsart", -1, ControlKind::ComboBox, "Auftragsart")
+               << control("ctlDatePicker", 0, ControlKind::DatePicker, "von Datum")
+               << control("ctlDatePicker", 1, ControlKind::DatePicker, "bis Datum")
+               << control("cmdAktion", 0, ControlKind::Button, "OK")
+               << control("cmdAktion", 1, ControlKind::Button, "Abbrechen");
+    return d;
+}
+
+}  // namespace
+
+const WindowDecl& frmLogDatenDel::declaration() {
+    static const WindowDecl decl = makeDeclaration();
+    return decl;
+}
+
+frmLogDatenDel::frmLogDatenDel(std::unique_ptr<IWindow> w) : WindowContract(std::move(w)) {
+    WindowEvents events;
+    events.onControl = [this](const ControlEvent& e) { onControl(e); };
+    window().setEvents(std::move(events));
+}
+
+void frmLogDatenDel::onControl(const ControlEvent& e) {
+    if (e.type == EventType::Click && is(e, "cmdAktion")) {
+        fire(evAktion, e.index);
+    }
+}

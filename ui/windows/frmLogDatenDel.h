@@ -1,0 +1,27 @@
+#pragma once
+
+#include <functional>
+
+#include "ui/WindowContract.h"
+
+// The deletion of log data by period: for one job (lblAuftragName tells which) or, without a
+// job, for one job type or all of them (cboAuftragsart, key 0 for all).
+class frmLogDatenDel : public WindowContract {
+  public:
+    static const WindowDecl& declaration();
+    explicit frmLogDatenDel(std::unique_ptr<IWindow> window);
+
+    ILabel& lblAuftragName() { return get<ILabel>(QStringLiteral("lblAuftragName")); }
+    IComboBox& cboAuftragsart() { return get<IComboBox>(QStringLiteral("cboAuftragsart")); }
+    // 0 "von Datum", 1 "bis Datum".
+    IDatePicker& ctlDatePicker(int index) {
+        return get<IDatePicker>(QStringLiteral("ctlDatePicker"), index);
+    }
+    // 0 OK, 1 Abbrechen.
+    IButton& cmdAktion(int index) { return get<IButton>(QStringLiteral("cmdAktion"), index); }
+
+    std::function<void(int Index)> evAktion;
+
+  private:
+    void onControl(const ControlEvent& e);
+};
