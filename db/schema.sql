@@ -208,6 +208,18 @@ CREATE INDEX ixJobAgentLogDaten_AutoJobId ON SYS_JobAgentLogDaten (AutoJobId);
 CREATE INDEX ixJobAgentLogDaten_JobArt ON SYS_JobAgentLogDaten (JobArt);
 CREATE INDEX ixJobAgentLogDaten_LogTyp ON SYS_JobAgentLogDaten (LogTyp, DatumUhrzeit);
 
+-- What each user made of a list: column order and widths (a JSON list of
+-- {"name", "width"} in the order shown) and the sort, under the list's key and
+-- the staff member, so that they follow the user to every workstation.
+CREATE TABLE tBrowserEinstellungen (
+    Schluessel      VARCHAR(200) NOT NULL,
+    MitarbeiterId   INTEGER NOT NULL DEFAULT 0,
+    Spalten         TEXT,
+    SortSpalte      VARCHAR(200),
+    SortAbsteigend  BIT DEFAULT 0,
+    PRIMARY KEY (Schluessel, MitarbeiterId)
+);
+
 ------------------------------------------------------------------------------
 -- Tables of the agent service (kept for it; this program does not use them)
 ------------------------------------------------------------------------------
