@@ -106,6 +106,20 @@ void create(const QString& path, long long total) {
         }
         sqlite3_finalize(stmt);
     }
+    // Dropping an index drops its statistics: they are written back with the index.
+    QStringList statistics;
+    {
+        sqlite3_stmt* stmt = nullptr;
+        sqlite3_prepare_v2(db.handle(),
+                           "SELECT printf('INSERT INTO sqlite_stat1 VALUES (%Q, %Q, %Q)', tbl, "
+                           "idx, stat) FROM sqlite_stat1",
+                           -1, &stmt, nullptr);
+        while (sqlite3_step(stmt) == SQLITE_ROW) {
+            statistics << QString::fromUtf8(
+                reinterpret_cast<const char*>(sqlite3_column_text(stmt, 0)));
+        }
+        sqlite3_finalize(stmt);
+    }
     for (const QString& index : indexes) {
         const QString name = index.section(u' ', 2, 2);
         db.run(QStringLiteral("DROP INDEX ") + name);
@@ -116,6 +130,10 @@ void create(const QString& path, long long total) {
     }
     for (const QString& index : indexes) {
         db.run(index);
+    }
+    db.run(QStringLiteral("DELETE FROM sqlite_stat1"));
+    for (const QString& statistic : statistics) {
+        db.run(statistic);
     }
     db.run(QStringLiteral("COMMIT"));
 }
