@@ -33,12 +33,8 @@ Result run(const QString& sql) {
     result.rows.reserve(std::max(0L, n));
     if (n > 0) {
         do {
-            BrowserRows::Values values;
-            values.reserve(result.names.size());
-            for (const QString& name : result.names) {
-                values.push_back(rs->ReadValue(name));
-            }
-            result.rows.push_back(std::move(values));
+            const QVariantList values = rs->ReadValues();
+            result.rows.emplace_back(values.begin(), values.end());
         } while (rs->Move(CRecordset::MoveNext));
     }
     rs->Close();
@@ -158,7 +154,7 @@ std::vector<BrowserRows::Values> BrowserRows::readBeside(int first, int n) const
         if (key.last().isNull()) {
             return std::vector<Values>{};
         }
-        std::vector<Values> rows = run(BrowserSql::rowsFrom(query_, direction, key, n + 1)).rows;
+        std::vector<Values> rows = rowsFrom(direction, key, n + 1);
         if (rows.empty() || rows.front() != edge) {
             return std::vector<Values>{};  // the edge row changed meanwhile
         }
@@ -202,13 +198,42 @@ std::vector<BrowserRows::Values> BrowserRows::readForward(const BrowserSql::Orde
         if (keys.rows.size() == 2 && !keys.rows[1].back().isNull() &&
             !sameKey(keys.rows[0], keys.rows[1])) {
             const QList<QVariant> key(keys.rows[1].begin(), keys.rows[1].end());
-            return run(BrowserSql::rowsFrom(query_, o, key, n)).rows;
+            return rowsFrom(o, key, n);
         }
     }
     return run(BrowserSql::rows(query_, o, n, offset)).rows;
 }
 
-int BrowserRows::find(const QList<QPair<int, QVariant>>& values, bool exact) const {
+std::vector<BrowserRows::Values> BrowserRows::rowsFrom(const BrowserSql::Order& o,
+                                                       const QList<QVariant>& key, int n) const {
+    std::vector<Values> rows;
+    for (const QString& part : BrowserSql::relation(o, key, false)) {
+        const int missing = n - static_cast<int>(rows.size());
+        if (missing <= 0) {
+            break;
+        }
+        for (Values& v : run(BrowserSql::rowsWhere(query_, o, part, missing)).rows) {
+            rows.push_back(std::move(v));
+        }
+    }
+    return rows;
+}
+
+int BrowserRows::countBefore(const BrowserSql::Order& o, const QList<QVariant>& key,
+                             int limit) const {
+    int before = 0;
+    for (const QString& part : BrowserSql::relation(o, key, true)) {
+        const int left = limit > 0 ? limit - before : 0;
+        const Result counted = run(BrowserSql::countWhere(query_, part, left));
+        before += counted.rows.empty() ? 0 : counted.rows.front().front().toInt();
+        if (limit > 0 && before >= limit) {
+            return -1;
+        }
+    }
+    return before;
+}
+
+int BrowserRows::find(const QList<QPair<int, QVariant>>& values, bool exact, int within) const {
     if (columns_.isEmpty() || count_ == 0) {
         return 0;
     }
@@ -224,7 +249,9 @@ int BrowserRows::find(const QList<QPair<int, QVariant>>& values, bool exact) con
         return 0;
     }
     const QList<QVariant> key(found.rows.front().begin(), found.rows.front().end());
-    const Result before = run(BrowserSql::countBefore(query_, o, key));
-    const int row = (before.rows.empty() ? 0 : before.rows.front().front().toInt()) + 1;
-    return row <= count_ ? row : 0;
+    const int before = countBefore(o, key, within);
+    if (before < 0) {
+        return -1;
+    }
+    return before + 1 <= count_ ? before + 1 : 0;
 }

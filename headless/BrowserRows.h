@@ -39,8 +39,9 @@ class BrowserRows {
     // Row 1 .. count().
     const Values& row(int r) const;
     // The first row (in the order) where every column holds its value, 0 when none. `exact`:
-    // see BrowserSql::equals.
-    int find(const QList<QPair<int, QVariant>>& values, bool exact) const;
+    // see BrowserSql::equals. With `within` above 0 only that many rows are counted to place
+    // the row, and -1 tells that it lies further down.
+    int find(const QList<QPair<int, QVariant>>& values, bool exact, int within = 0) const;
     // How many pages are kept now (for tests).
     int pagesKept() const { return static_cast<int>(pages_.size()); }
 
@@ -52,6 +53,9 @@ class BrowserRows {
 
     BrowserSql::Order order() const;
     const Values* kept(int r) const;
+    std::vector<Values> rowsFrom(const BrowserSql::Order& o, const QList<QVariant>& key,
+                                 int n) const;
+    int countBefore(const BrowserSql::Order& o, const QList<QVariant>& key, int limit) const;
     std::vector<Values> readBeside(int first, int n) const;
     std::vector<Values> read(int first, int n) const;
     std::vector<Values> readForward(const BrowserSql::Order& order, int offset, int n) const;

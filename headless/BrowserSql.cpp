@@ -32,42 +32,36 @@ QString tuple(const QStringList& parts) {
     return parts.size() == 1 ? parts.first() : u'(' + parts.join(QStringLiteral(", ")) + u')';
 }
 
-// The rows before (or, with `before` false, at or after) the row with the key, in the order.
-// The key column (the last) is never NULL; a sort column before it may be, and NULLs come
-// first in an ascending and last in a descending order.
-QString relation(const Order& order, const QList<QVariant>& key, bool before) {
+}  // namespace
+
+QStringList relation(const Order& order, const QList<QVariant>& key, bool before) {
+    // The key column (the last) is never NULL; a sort column before it may be, and NULLs
+    // come first in an ascending and last in a descending order. Each part is a range an
+    // index can serve (an OR of them could not), in the order the rows come.
     const QString k = name(order.columns.last());
     const QString kv = literal(key.last());
     const bool asc = order.ascending;
+    const QLatin1String op(before ? (asc ? "<" : ">") : (asc ? ">=" : "<="));
     if (order.columns.size() == 1) {
-        const QLatin1String op(before ? (asc ? "<" : ">") : (asc ? ">=" : "<="));
-        return k + u' ' + op + u' ' + kv;
+        return {k + u' ' + op + u' ' + kv};
     }
     const QString s = name(order.columns.first());
+    const QString isNull = s + QStringLiteral(" IS NULL");
+    const QString notNull = s + QStringLiteral(" IS NOT NULL");
     if (!key.first().isNull()) {
-        const QString pair = tuple({s, k});
-        const QString values = tuple({literal(key.first()), kv});
-        const QLatin1String op(before ? (asc ? "<" : ">") : (asc ? ">=" : "<="));
-        const QString compared = pair + u' ' + op + u' ' + values;
-        // NULLs of the sort column stand before everything when ascending, after when not.
+        const QString compared =
+            tuple({s, k}) + u' ' + op + u' ' + tuple({literal(key.first()), kv});
         if (asc == before) {
-            return u'(' + compared + QStringLiteral(" OR ") + s + QStringLiteral(" IS NULL)");
+            return asc ? QStringList{isNull, compared} : QStringList{compared, isNull};
         }
-        return compared;
+        return {compared};
     }
+    const QString nullPart = isNull + QStringLiteral(" AND ") + k + u' ' + op + u' ' + kv;
     if (asc) {
-        return before ? u'(' + s + QStringLiteral(" IS NULL AND ") + k + QStringLiteral(" < ") +
-                            kv + u')'
-                      : u'(' + s + QStringLiteral(" IS NOT NULL OR ") + k + QStringLiteral(" >= ") +
-                            kv + u')';
+        return before ? QStringList{nullPart} : QStringList{nullPart, notNull};
     }
-    return before ? u'(' + s + QStringLiteral(" IS NOT NULL OR ") + k + QStringLiteral(" > ") + kv +
-                        u')'
-                  : u'(' + s + QStringLiteral(" IS NULL AND ") + k + QStringLiteral(" <= ") + kv +
-                        u')';
+    return before ? QStringList{notNull, nullPart} : QStringList{nullPart};
 }
-
-}  // namespace
 
 QString name(const QString& column) {
     QString n = column;
@@ -127,13 +121,17 @@ QString keys(const QString& query, const Order& order, int limit, int offset) {
            orderBy(order) + window(limit, offset);
 }
 
-QString rowsFrom(const QString& query, const Order& order, const QList<QVariant>& key, int limit) {
-    return QStringLiteral("SELECT *") + from(query) + QStringLiteral(" WHERE ") +
-           relation(order, key, false) + orderBy(order) + window(limit, 0);
+QString rowsWhere(const QString& query, const Order& order, const QString& condition, int limit) {
+    return QStringLiteral("SELECT *") + from(query) + QStringLiteral(" WHERE ") + condition +
+           orderBy(order) + window(limit, 0);
 }
 
-QString countBefore(const QString& query, const Order& order, const QList<QVariant>& key) {
-    return count(query) + QStringLiteral(" WHERE ") + relation(order, key, true);
+QString countWhere(const QString& query, const QString& condition, int limit) {
+    if (limit <= 0) {
+        return count(query) + QStringLiteral(" WHERE ") + condition;
+    }
+    return QStringLiteral("SELECT count(*) AS Anzahl FROM (SELECT 1") + from(query) +
+           QStringLiteral(" WHERE ") + condition + window(limit, 0) + u')';
 }
 
 QString firstKeyWhere(const QString& query, const Order& order, const QString& condition) {

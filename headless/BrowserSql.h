@@ -32,10 +32,13 @@ QString columnsOnly(const QString& query);
 QString rows(const QString& query, const Order& order, int limit, int offset);
 // Only the order's columns of `limit` rows from `offset` on.
 QString keys(const QString& query, const Order& order, int limit, int offset);
-// All columns of `limit` rows from the row with these order values on.
-QString rowsFrom(const QString& query, const Order& order, const QList<QVariant>& key, int limit);
-// How many rows stand before the row with these order values.
-QString countBefore(const QString& query, const Order& order, const QList<QVariant>& key);
+// The rows from the one with these order values on (`before` false) or the rows before it
+// (`before` true), as conditions that together give them, in the order the rows come.
+QStringList relation(const Order& order, const QList<QVariant>& key, bool before);
+// All columns of `limit` rows meeting the condition, in the order.
+QString rowsWhere(const QString& query, const Order& order, const QString& condition, int limit);
+// How many rows meet the condition; with a limit above 0 counting stops there.
+QString countWhere(const QString& query, const QString& condition, int limit = 0);
 // The order values of the first row that meets the condition.
 QString firstKeyWhere(const QString& query, const Order& order, const QString& condition);
 

@@ -138,14 +138,14 @@ HeadlessBrowser::Marks HeadlessBrowser::marks() const {
     return m;
 }
 
-void HeadlessBrowser::restore(const Marks& m) {
+void HeadlessBrowser::restore(const Marks& m, int within) {
     selected_.clear();
     row_ = 0;
     if (rows_.columns().isEmpty() || rows_.count() == 0) {
         return;
     }
-    auto rowOf = [this](const QVariant& key) {
-        return key.isNull() ? 0 : rows_.find({{0, key}}, true);
+    auto rowOf = [this, within](const QVariant& key) {
+        return key.isNull() ? 0 : std::max(0, rows_.find({{0, key}}, true, within));
     };
     for (const QVariant& key : m.selected) {
         const int r = rowOf(key);
@@ -324,7 +324,9 @@ void HeadlessBrowser::sortBy(const QString& column, bool ascending) {
     }
     const Marks before = marks();
     rows_.reorder(columns_[c]->name, ascending);
-    restore(before);
+    // Placing a record in the new order means counting the rows before it; on a list of
+    // millions that is done for records near the top only, the others leave the selection.
+    restore(before, kSortFollowsWithin);
     settings_.sortColumn = columns_[c]->name;
     settings_.ascending = ascending;
     store();

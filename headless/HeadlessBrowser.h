@@ -96,7 +96,8 @@ class HeadlessBrowser : public HeadlessControl, public IBrowser, public ISelecti
     // How many loads ran.
     int loadCount() const { return loadCount_; }
     // Orders the rows by a column through the database and keeps that sort for the user;
-    // the selected records stay selected and current.
+    // the selected records stay selected and current where they stand within the first
+    // kSortFollowsWithin rows of the new order.
     void sortBy(const QString& column, bool ascending);
 
     // The user selects rows, the first current; SelectionChanged. Refused for rows that are
@@ -127,7 +128,9 @@ class HeadlessBrowser : public HeadlessControl, public IBrowser, public ISelecti
     static constexpr int kMarksKept = 1000;
     Marks marks() const;
     void takeColumns(const QStringList& names);
-    void restore(const Marks& marks);
+    static constexpr int kSortFollowsWithin = 100000;
+    // `within` above 0: a record further down than that many rows is not looked for.
+    void restore(const Marks& marks, int within = 0);
     void store();
 
     QString titel_;
