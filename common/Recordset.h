@@ -50,6 +50,9 @@ class CRecordset {
     // for NULL): what a list that shows any query needs.
     virtual QStringList FieldNames() = 0;
     virtual QVariant ReadValue(const QString& field) = 0;
+    // Every field's raw value of the current record, in the order of FieldNames: what a list
+    // reading many rows needs. By default through ReadValue.
+    virtual QVariantList ReadValues();
 
     // Writes go into the buffer of the current record and read back before Update.
     virtual void WriteBool(const QString& field, bool value) = 0;

@@ -212,6 +212,21 @@ CREATE INDEX ixJobAgentLogDaten_DatumUhrzeit ON SYS_JobAgentLogDaten (DatumUhrze
 CREATE INDEX ixJobAgentLogDaten_AutoJobId ON SYS_JobAgentLogDaten (AutoJobId);
 CREATE INDEX ixJobAgentLogDaten_JobArt ON SYS_JobAgentLogDaten (JobArt);
 CREATE INDEX ixJobAgentLogDaten_LogTyp ON SYS_JobAgentLogDaten (LogTyp, DatumUhrzeit);
+-- The entries of one type in the order of their ids: the viewer's job log
+-- counts and steps through them without reading the table.
+CREATE INDEX ixJobAgentLogDaten_LogTypId ON SYS_JobAgentLogDaten (LogTyp, Id);
+
+-- What each user made of a list: column order and widths (a JSON list of
+-- {"name", "width"} in the order shown) and the sort, under the list's key and
+-- the staff member, so that they follow the user to every workstation.
+CREATE TABLE tBrowserEinstellungen (
+    Schluessel      VARCHAR(200) NOT NULL,
+    MitarbeiterId   INTEGER NOT NULL DEFAULT 0,
+    Spalten         TEXT,
+    SortSpalte      VARCHAR(200),
+    SortAbsteigend  BIT DEFAULT 0,
+    PRIMARY KEY (Schluessel, MitarbeiterId)
+);
 
 ------------------------------------------------------------------------------
 -- Tables of the agent service (kept for it; this program does not use them)
@@ -308,6 +323,9 @@ LEFT JOIN tAutoJobVerlauf lv
 --   Mitarbeiter  name of the entry's staff member, empty for none
 --   Auftragsart  label of JobArt, composed as in the job list
 --   Name         the name the agent wrote, else the job's name
+-- Staff and job names are looked up per row shown, not joined: counting the
+-- log and skipping rows then never touches the other tables, which keeps the
+-- viewer fast on millions of entries.
 CREATE VIEW SYS_JobAgentLogDaten_Anzeigen AS
 SELECT
     l.Id                                            AS Id,
@@ -315,7 +333,8 @@ SELECT
     l.LogTyp                                        AS Typ,
     COALESCE(l.Herkunft, '')                        AS Herkunft,
     COALESCE(l.AuftragKennung, '')                  AS [Auftrag Kennung],
-    COALESCE(m.Name, '')                            AS Mitarbeiter,
+    COALESCE((SELECT m.Name FROM tMitarbeiter m WHERE m.MitId = l.MitarbeiterId), '')
+                                                    AS Mitarbeiter,
     l.DatumUhrzeit                                  AS [Datum/Uhrzeit],
     COALESCE(l.Kategorie, '')                       AS Kategorie,
     CASE l.JobArt
@@ -332,11 +351,25 @@ SELECT
         WHEN 99 THEN 'Textdatei-Import'
         ELSE ''
     END                                             AS Auftragsart,
-    COALESCE(l.Name, j.Name, '')                    AS Name,
+    COALESCE(l.Name, (SELECT j.Name FROM tAutoJobJob j WHERE j.idAutoJob = l.AutoJobId), '')
+                                                    AS Name,
     COALESCE(l.Text, '')                            AS Text,
     COALESCE(l.Zusatz, '')                          AS Zusatz
-FROM SYS_JobAgentLogDaten l
-LEFT JOIN tMitarbeiter m
-       ON m.MitId = l.MitarbeiterId
-LEFT JOIN tAutoJobJob j
-       ON j.idAutoJob = l.AutoJobId;
+FROM SYS_JobAgentLogDaten l;
+
+------------------------------------------------------------------------------
+-- Statistics for the query planner
+------------------------------------------------------------------------------
+
+-- The shape of a grown log, so that SQLite plans the viewer's statements for
+-- millions of entries from the start: three types, a few hundred jobs, ten job
+-- types, nearly one entry per second. Without them it takes every index for
+-- selective and sorts a whole type to show its first rows. ANALYZE on a real
+-- database replaces these figures with measured ones.
+ANALYZE sqlite_master;
+INSERT INTO sqlite_stat1 (tbl, idx, stat) VALUES
+    ('SYS_JobAgentLogDaten', 'ixJobAgentLogDaten_LogTyp', '10000000 3333334 2'),
+    ('SYS_JobAgentLogDaten', 'ixJobAgentLogDaten_LogTypId', '10000000 3333334 1'),
+    ('SYS_JobAgentLogDaten', 'ixJobAgentLogDaten_DatumUhrzeit', '10000000 2'),
+    ('SYS_JobAgentLogDaten', 'ixJobAgentLogDaten_AutoJobId', '10000000 33334'),
+    ('SYS_JobAgentLogDaten', 'ixJobAgentLogDaten_JobArt', '10000000 1000000');

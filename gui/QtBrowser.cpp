@@ -1,9 +1,12 @@
 #include "gui/QtBrowser.h"
 
 #include <QHeaderView>
+#include <QTimer>
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "common/ErrorReport.h"
+#include "common/Variants.h"
 #include "gui/QtToolBar.h"
 
 namespace {
@@ -18,7 +21,17 @@ constexpr int kColumnPadding = 24;
 BrowserModel::BrowserModel(const HeadlessBrowser& browser, QObject* parent)
     : QAbstractTableModel(parent), browser_(&browser) {}
 
+void BrowserModel::failed(const RaisedError& e) const {
+    // Painting asks for every cell in sight; the error is shown once per load, after painting.
+    if (reported_) {
+        return;
+    }
+    reported_ = true;
+    QTimer::singleShot(0, this, [err = e.err()]() mutable { Core_gErrorHandling(err); });
+}
+
 void BrowserModel::reload() {
+    reported_ = false;
     beginResetModel();
     columns_ = browser_ ? browser_->SpaltenNamen() : QStringList();
     rows_ = browser_ ? browser_->RecordCount() : 0;
@@ -43,10 +56,21 @@ QVariant BrowserModel::data(const QModelIndex& index, int role) const {
         index.column() >= columns_.size()) {
         return {};
     }
-    if (role == Qt::DisplayRole || role == Qt::ToolTipRole) {
-        return browser_->cellText(index.row() + 1, columns_[index.column()]);
+    if (role != Qt::DisplayRole && role != Qt::ToolTipRole && role != Qt::TextAlignmentRole) {
+        return {};
     }
-    return {};
+    QVariant value;
+    try {
+        value = browser_->cellValue(index.row() + 1, columns_[index.column()]);
+    } catch (const RaisedError& e) {
+        failed(e);
+        return {};
+    }
+    if (role == Qt::TextAlignmentRole) {
+        return isNumberVariant(value) ? QVariant(Qt::AlignRight | Qt::AlignVCenter)
+                                      : QVariant(Qt::AlignLeft | Qt::AlignVCenter);
+    }
+    return HeadlessBrowser::displayText(value);
 }
 
 QVariant BrowserModel::headerData(int section, Qt::Orientation orientation, int role) const {
@@ -84,6 +108,8 @@ QtBrowser::QtBrowser(const ControlDecl& decl, HeadlessWindow& window, QWidget* p
     view_->verticalHeader()->hide();
     view_->verticalHeader()->setDefaultSectionSize(view_->verticalHeader()->minimumSectionSize() +
                                                    4);
+    // Column widths are measured on the first page of rows only, not on a thousand.
+    view_->horizontalHeader()->setResizeContentsPrecision(BrowserRows::kPageSize);
     view_->horizontalHeader()->setSectionsClickable(true);
     view_->horizontalHeader()->setHighlightSections(false);
     view_->horizontalHeader()->setStretchLastSection(true);
@@ -105,6 +131,24 @@ QtBrowser::QtBrowser(const ControlDecl& decl, HeadlessWindow& window, QWidget* p
     });
     QObject::connect(view_->horizontalHeader(), &QHeaderView::sectionClicked, guard(),
                      [this](int section) { sortByHeading(section); });
+    // Widths and order the user gives the columns are kept a moment after the last change.
+    keepTimer_ = new QTimer(view_);
+    keepTimer_->setSingleShot(true);
+    keepTimer_->setInterval(500);
+    QObject::connect(keepTimer_, &QTimer::timeout, guard(), [this] { keepColumns(); });
+    QObject::connect(view_->horizontalHeader(), &QHeaderView::sectionMoved, guard(), [this] {
+        if (!updating()) {
+            keepTimer_->start();
+        }
+    });
+    // The last column stretches with the window: that is no choice of the user.
+    QObject::connect(view_->horizontalHeader(), &QHeaderView::sectionResized, guard(),
+                     [this](int logical) {
+                         QHeaderView* header = view_->horizontalHeader();
+                         if (!updating() && header->visualIndex(logical) < header->count() - 1) {
+                             keepTimer_->start();
+                         }
+                     });
     QObject::connect(view_, &QTableView::customContextMenuRequested, guard(),
                      [this](const QPoint& pos) {
                          if (!menu_->actions().isEmpty()) {
@@ -117,6 +161,9 @@ QtBrowser::QtBrowser(const ControlDecl& decl, HeadlessWindow& window, QWidget* p
 }
 
 QtBrowser::~QtBrowser() {
+    if (keepTimer_ && keepTimer_->isActive()) {
+        keepColumns();
+    }
     if (model_) {
         model_->detach();
     }
@@ -150,16 +197,19 @@ void QtBrowser::dataChanged() {
         view_->setColumnHidden(c, colHidden(columns[c]));
     }
     QHeaderView* header = view_->horizontalHeader();
-    const int sorted = sortColumn_.isEmpty() ? -1 : columns.indexOf(sortColumn_);
+    const int sorted = sortColumn().isEmpty() ? -1 : columns.indexOf(sortColumn());
     header->setSortIndicatorShown(sorted >= 0);
     if (sorted >= 0) {
-        header->setSortIndicator(sorted, sortAscending_ ? Qt::AscendingOrder : Qt::DescendingOrder);
+        header->setSortIndicator(sorted,
+                                 sortAscending() ? Qt::AscendingOrder : Qt::DescendingOrder);
     }
     if (columns != before) {
+        // Only the rows in sight are measured (the header's precision), never the whole list.
         view_->resizeColumnsToContents();
         for (int c = 0; c < columns.size(); ++c) {
             view_->setColumnWidth(c, view_->columnWidth(c) + kColumnPadding);
         }
+        applyKeptColumns();
     }
     showSelection();
     setUpdating(was);
@@ -238,9 +288,41 @@ void QtBrowser::sortByHeading(int section) {
     if (!column || !column->SpalteFlagB) {
         return;
     }
-    sortAscending_ = sortColumn_.compare(name, Qt::CaseInsensitive) == 0 ? !sortAscending_ : true;
-    sortColumn_ = name;
-    WidgetCall::run([&] { sortBy(name, sortAscending_); });
+    const bool ascending =
+        sortColumn().compare(name, Qt::CaseInsensitive) == 0 ? !sortAscending() : true;
+    WidgetCall::run([&] { sortBy(name, ascending); });
+}
+
+void QtBrowser::applyKeptColumns() {
+    QHeaderView* header = view_->horizontalHeader();
+    const QStringList& columns = model_->columns();
+    int visual = 0;
+    for (const BrowserSettings::Column& kept : settings().columns) {
+        const int logical = columns.indexOf(kept.name);
+        if (logical < 0) {
+            continue;
+        }
+        header->moveSection(header->visualIndex(logical), visual++);
+        if (kept.width > 0) {
+            header->resizeSection(logical, kept.width);
+        }
+    }
+}
+
+void QtBrowser::keepColumns() {
+    if (!view_ || !model_) {
+        return;
+    }
+    QHeaderView* header = view_->horizontalHeader();
+    const QStringList& columns = model_->columns();
+    QList<BrowserSettings::Column> kept;
+    for (int visual = 0; visual < header->count(); ++visual) {
+        const int logical = header->logicalIndex(visual);
+        if (logical >= 0 && logical < columns.size()) {
+            kept.append({columns[logical], header->sectionSize(logical)});
+        }
+    }
+    HeadlessBrowser::keepColumns(kept);
 }
 
 void QtBrowser::rebuildTools(HeadlessToolList& list, QWidget* holder, QList<ToolAction>& actions) {

@@ -5,13 +5,16 @@
 #include <QMenu>
 #include <QPointer>
 #include <QTableView>
+#include <QTimer>
 #include <QToolBar>
 #include <optional>
 
+#include "common/ErrObject.h"
 #include "gui/QtControl.h"
 #include "headless/HeadlessBrowser.h"
 
-// The browser's rows as a table model: the loaded columns as headings, the values as text.
+// The browser's rows as a table model: the loaded columns as headings, the values as text
+// (dates the German way, numbers to the right). Only the rows the view paints are asked for.
 class BrowserModel : public QAbstractTableModel {
   public:
     BrowserModel(const HeadlessBrowser& browser, QObject* parent);
@@ -27,7 +30,10 @@ class BrowserModel : public QAbstractTableModel {
     const QStringList& columns() const { return columns_; }
 
   private:
+    void failed(const RaisedError& e) const;
+
     const HeadlessBrowser* browser_;
+    mutable bool reported_ = false;
     QStringList columns_;
     int rows_ = 0;
 };
@@ -65,6 +71,9 @@ class QtBrowser : public QtControl<HeadlessBrowser> {
     void showSelection();
     void userSelectionChanged();
     void sortByHeading(int section);
+    // The user's column order and widths: put back after a load, kept after a change.
+    void applyKeptColumns();
+    void keepColumns();
     void rebuildTools(HeadlessToolList& list, QWidget* holder, QList<ToolAction>& actions);
     int firstVisibleColumn() const;
 
@@ -77,6 +86,5 @@ class QtBrowser : public QtControl<HeadlessBrowser> {
     QList<ToolAction> menuActions_;
     QList<int> shownSelection_;
     std::optional<QList<int>> pendingOrder_;
-    QString sortColumn_;
-    bool sortAscending_ = true;
+    QPointer<QTimer> keepTimer_;
 };

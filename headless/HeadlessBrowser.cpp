@@ -2,40 +2,11 @@
 
 #include <QDateTime>
 #include <algorithm>
-#include <numeric>
 
 #include "common/ErrObject.h"
+#include "common/ErrorReport.h"
 #include "common/Services.h"
 #include "common/Variants.h"
-
-namespace {
-
-bool isNumberType(const QVariant& v) {
-    return isNumberVariant(v, true);
-}
-
-// Both as numbers when one of them is a number and the other reads as one.
-bool asNumbers(const QVariant& a, const QVariant& b, double& x, double& y) {
-    if (!isNumberType(a) && !isNumberType(b)) {
-        return false;
-    }
-    bool okA = false;
-    bool okB = false;
-    x = a.toDouble(&okA);
-    y = b.toDouble(&okB);
-    return okA && okB && !a.isNull() && !b.isNull();
-}
-
-bool sameValue(const QVariant& cell, const QVariant& wanted) {
-    double x = 0;
-    double y = 0;
-    if (asNumbers(cell, wanted, x, y)) {
-        return x == y;
-    }
-    return HeadlessBrowser::valueText(cell) == HeadlessBrowser::valueText(wanted);
-}
-
-}  // namespace
 
 HeadlessBrowser::HeadlessBrowser(const ControlDecl& decl, HeadlessWindow& window)
     : HeadlessControl(decl, window),
@@ -92,30 +63,25 @@ void HeadlessBrowser::setModus(long mode) {
 // --- loading ---
 
 void HeadlessBrowser::Load() {
-    const auto& factory = services().newRecordset;
-    std::unique_ptr<CRecordset> rs = factory ? factory() : nullptr;
-    if (!rs) {
-        throw RaisedError(ErrNumber::CannotCreate,
-                          QStringLiteral("Das Objekt hdata.CRecordset kann nicht erstellt werden."),
-                          QStringLiteral("ctlBrowser"));
+    // The user's sort is a convenience: a list must open even when it can't be read.
+    BrowserSettings settings;
+    try {
+        settings = readBrowserSettings(schluessel_, mitarbeiterId_);
+    } catch (const RaisedError&) {
+        settings = {};
     }
-    rs->Connect();
-    const long count = rs->OpenQuery(abfrage_, 0);
-    const QStringList names = rs->FieldNames();
-    std::vector<std::vector<QVariant>> records;
-    if (count > 0) {
-        do {
-            std::vector<QVariant> values;
-            values.reserve(names.size());
-            for (const QString& name : names) {
-                values.push_back(rs->ReadValue(name));
-            }
-            records.push_back(std::move(values));
-        } while (rs->Move(CRecordset::MoveNext));
-    }
-    rs->Close();
-    rs->Disconnect();
+    BrowserRows rows = rows_;
+    rows.open(abfrage_, settings.sortColumn, settings.ascending);
+    takeColumns(rows.columns());
+    rows_ = std::move(rows);
+    settings_ = settings;
+    selected_.clear();
+    row_ = 0;
+    ++loadCount_;
+    dataChanged();
+}
 
+void HeadlessBrowser::takeColumns(const QStringList& names) {
     // The columns of this load, keeping the objects (and flags) of those known before.
     std::vector<std::unique_ptr<BrowserColumn>> columns;
     for (const QString& name : names) {
@@ -142,15 +108,54 @@ void HeadlessBrowser::Load() {
     }
     std::erase(retired_, nullptr);
     columns_ = std::move(columns);
-    records_ = std::move(records);
-    selected_.clear();
-    row_ = 0;
-    ++loadCount_;
-    dataChanged();
 }
 
 void HeadlessBrowser::Refresh(bool) {
-    Load();
+    const Marks before = marks();
+    BrowserRows rows = rows_;
+    rows.open(abfrage_, rows_.sortColumn(), rows_.ascending());
+    takeColumns(rows.columns());
+    rows_ = std::move(rows);
+    ++loadCount_;
+    restore(before);
+    dataChanged();
+}
+
+HeadlessBrowser::Marks HeadlessBrowser::marks() const {
+    Marks m;
+    if (rows_.columns().isEmpty()) {
+        return m;
+    }
+    // A selection of more rows than a user picks by hand is not carried over.
+    if (selected_.size() <= kMarksKept) {
+        for (int r : selected_) {
+            m.selected << rows_.row(r).front();
+        }
+    }
+    if (row_ > 0) {
+        m.current = rows_.row(row_).front();
+    }
+    return m;
+}
+
+void HeadlessBrowser::restore(const Marks& m, int within) {
+    selected_.clear();
+    row_ = 0;
+    if (rows_.columns().isEmpty() || rows_.count() == 0) {
+        return;
+    }
+    auto rowOf = [this, within](const QVariant& key) {
+        return key.isNull() ? 0 : std::max(0, rows_.find({{0, key}}, true, within));
+    };
+    for (const QVariant& key : m.selected) {
+        const int r = rowOf(key);
+        if (r > 0 && !selected_.contains(r)) {
+            selected_ << r;
+        }
+    }
+    if (m.current.isValid()) {
+        row_ = rowOf(m.current);
+    }
 }
 
 void HeadlessBrowser::AttachHost(void*&, void*&) {}
@@ -241,7 +246,7 @@ void HeadlessBrowser::SetSelected(int row, bool on) {
 QList<QPair<QString, QVariant>> HeadlessBrowser::Item(int row) const {
     checkRow(row, "Item");
     QList<QPair<QString, QVariant>> pairs;
-    const auto& values = records_[row - 1];
+    const auto& values = rows_.row(row);
     for (size_t i = 0; i < columns_.size(); ++i) {
         pairs.append({columns_[i]->name, values[i]});
     }
@@ -249,24 +254,17 @@ QList<QPair<QString, QVariant>> HeadlessBrowser::Item(int row) const {
 }
 
 int HeadlessBrowser::FindRow(const CValues& values) const {
-    QList<int> indexes;
+    QList<QPair<int, QVariant>> wanted;
     for (const auto& v : values) {
         const int i = columnIndex(v.first);
         if (i < 0) {
             return 0;
         }
-        indexes << i;
+        wanted.append({i, v.second});
     }
-    for (int r = 0; r < RecordCount(); ++r) {
-        bool all = true;
-        for (int k = 0; k < values.size() && all; ++k) {
-            all = sameValue(records_[r][indexes[k]], values[k].second);
-        }
-        if (all) {
-            return r + 1;
-        }
-    }
-    return 0;
+    // The stored values first, where an index serves; then numbers also as text.
+    const int exact = rows_.find(wanted, true);
+    return exact > 0 ? exact : rows_.find(wanted, false);
 }
 
 // --- cells ---
@@ -304,7 +302,7 @@ QVariant HeadlessBrowser::cellValue(int row, const QString& column) const {
         return columns_[c]->name;
     }
     checkRow(row, "Cell");
-    return records_[row - 1][c];
+    return rows_.row(row)[c];
 }
 
 QString HeadlessBrowser::cellText(int row, const QString& column) const {
@@ -324,36 +322,68 @@ void HeadlessBrowser::sortBy(const QString& column, bool ascending) {
     if (c < 0) {
         badIndex(QStringLiteral("keine Spalte \"%1\"").arg(column));
     }
-    std::vector<int> order(records_.size());
-    std::iota(order.begin(), order.end(), 0);
-    auto less = [&](int a, int b) {
-        const QVariant& x = records_[a][c];
-        const QVariant& y = records_[b][c];
-        double dx = 0;
-        double dy = 0;
-        if (asNumbers(x, y, dx, dy)) {
-            return dx < dy;
-        }
-        if (x.isNull() != y.isNull()) {
-            return x.isNull();
-        }
-        return valueText(x).compare(valueText(y), Qt::CaseInsensitive) < 0;
-    };
-    std::stable_sort(order.begin(), order.end(),
-                     [&](int a, int b) { return ascending ? less(a, b) : less(b, a); });
-    std::vector<std::vector<QVariant>> sorted;
-    sorted.reserve(records_.size());
-    std::vector<int> newRowOf(records_.size() + 1, 0);
-    for (size_t i = 0; i < order.size(); ++i) {
-        sorted.push_back(std::move(records_[order[i]]));
-        newRowOf[order[i] + 1] = static_cast<int>(i) + 1;
-    }
-    records_ = std::move(sorted);
-    for (int& r : selected_) {
-        r = newRowOf[r];
-    }
-    row_ = newRowOf[row_];
+    const Marks before = marks();
+    rows_.reorder(columns_[c]->name, ascending);
+    // Placing a record in the new order means counting the rows before it; on a list of
+    // millions that is done for records near the top only, the others leave the selection.
+    restore(before, kSortFollowsWithin);
+    settings_.sortColumn = columns_[c]->name;
+    settings_.ascending = ascending;
+    store();
     dataChanged();
+}
+
+void HeadlessBrowser::keepColumns(const QList<BrowserSettings::Column>& columns) {
+    if (settings_.columns == columns) {
+        return;
+    }
+    settings_.columns = columns;
+    store();
+}
+
+void HeadlessBrowser::store() {
+    try {
+        writeBrowserSettings(schluessel_, mitarbeiterId_, settings_);
+    } catch (const RaisedError& e) {
+        // Reported the first time only: the list works on without its settings.
+        if (!storeFailed_) {
+            storeFailed_ = true;
+            ErrObject err = e.err();
+            Core_gErrorHandling(err);
+        }
+    }
+}
+
+QString HeadlessBrowser::displayText(const QVariant& value) {
+    if (value.typeId() == QMetaType::QDateTime) {
+        return value.toDateTime().toString(QStringLiteral("dd.MM.yyyy HH:mm:ss"));
+    }
+    if (value.typeId() == QMetaType::QDate) {
+        return value.toDate().toString(QStringLiteral("dd.MM.yyyy"));
+    }
+    const QString text = valueText(value);
+    // A date as the database keeps it: yyyy-MM-dd, maybe with HH:mm[:ss].
+    const auto digits = [&text](int from, int n) {
+        for (int i = from; i < from + n; ++i) {
+            if (!text.at(i).isDigit()) {
+                return false;
+            }
+        }
+        return true;
+    };
+    const qsizetype n = text.size();
+    if ((n == 10 || n == 16 || n == 19) && digits(0, 4) && text.at(4) == u'-' && digits(5, 2) &&
+        text.at(7) == u'-' && digits(8, 2)) {
+        const QString german = text.mid(8, 2) + u'.' + text.mid(5, 2) + u'.' + text.left(4);
+        if (n == 10) {
+            return german;
+        }
+        if (text.at(10) == u' ' && digits(11, 2) && text.at(13) == u':' && digits(14, 2) &&
+            (n == 16 || (text.at(16) == u':' && digits(17, 2)))) {
+            return german + text.mid(10) + (n == 16 ? QStringLiteral(":00") : QString());
+        }
+    }
+    return text;
 }
 
 // --- the user ---

@@ -6,17 +6,23 @@
 #include <memory>
 #include <vector>
 
+#include "headless/BrowserRows.h"
+#include "headless/BrowserSettings.h"
 #include "headless/HeadlessControl.h"
 #include "headless/HeadlessTool.h"
 
 // The browser control: a list over a query with its own tool bar (Tools) and context menu
 // (Menu), columns with two flags, and the selection object (the browser itself).
 //
-// Load() runs Abfrage on a record set of the service registry (OpenQuery(sql, 0)) and keeps
-// every record's values in the order of the fields. The columns come from the first load and
-// keep their flags (and their objects) on every later load; Refresh is a load. After a load
-// nothing is selected and Row is 0. A failing query throws and leaves the former rows.
-// Rows count from 1; row 0 is the heading.
+// The browser is a view over Abfrage (BrowserRows): Load() counts the rows and reads the first
+// page through record sets of the service registry; any other row is read when it is asked
+// for, and only a few pages are kept. Sorting by a column is an ORDER BY of the database. The
+// columns come from the first load and keep their flags (and their objects) on every later
+// load. Load reads the user's sort stored under Schluessel and MitarbeiterId and starts with
+// nothing selected and Row 0; Refresh keeps the sort and the selection, which follow their
+// records (by the first column, the key of the rows) to where they stand now, and drops those
+// that are gone. A failing query throws and leaves the former rows. Rows count from 1; row 0
+// is the heading.
 //
 // For the Qt kit: dataChanged() follows a load and a sort, selectionStateChanged() a change
 // of the selection or the current row, toolsChanged() a change of a tool list or of a tool;
@@ -39,7 +45,7 @@ class HeadlessBrowser : public HeadlessControl, public IBrowser, public ISelecti
     long Modus() const override { return modus_; }
     void setModus(long mode) override;
     void Load() override;
-    // A load; the flag is not used.
+    // Reads the rows anew, keeping sort and selection; the flag is not used.
     void Refresh(bool flag) override;
     // Leaves both as they are.
     void AttachHost(void*& oNotify, void*& oMain) override;
@@ -54,7 +60,7 @@ class HeadlessBrowser : public HeadlessControl, public IBrowser, public ISelecti
 
     // ISelectionObject
     int RowCount() const override { return RecordCount() + 1; }
-    int RecordCount() const override { return static_cast<int>(records_.size()); }
+    int RecordCount() const override { return rows_.count(); }
     int SelCount() const override { return static_cast<int>(selected_.size()); }
     int SelRow(int i) const override;
     int Row() const override { return row_; }
@@ -63,7 +69,8 @@ class HeadlessBrowser : public HeadlessControl, public IBrowser, public ISelecti
     // Adds the row at the end of the selection or takes it out; Row stays.
     void SetSelected(int row, bool on) override;
     QList<QPair<QString, QVariant>> Item(int row) const override;
-    // Numbers compare numerically, all else as exact text; 0 when no row matches.
+    // Numbers compare numerically, all else as exact text; 0 when no row matches. Asks the
+    // database, so that it is right for rows never read.
     int FindRow(const CValues& values) const override;
 
     // For tests, the scenario runner and the Qt kit.
@@ -73,12 +80,24 @@ class HeadlessBrowser : public HeadlessControl, public IBrowser, public ISelecti
     QVariant cellValue(int row, const QString& column) const;
     // The value as text: "" for NULL, numbers in decimal, text as stored.
     QString cellText(int row, const QString& column) const;
+    // The value as the list shows it: dates the German way, all else as cellText.
+    static QString displayText(const QVariant& value);
+    // The rows as the database gives them (for the Qt kit and tests).
+    const BrowserRows& rows() const { return rows_; }
+    // The sort in force: column ("" for the key's order) and direction.
+    QString sortColumn() const { return rows_.sortColumn(); }
+    bool sortAscending() const { return rows_.ascending(); }
+    // The settings read at the last load; the Qt kit keeps the columns it shows in them.
+    const BrowserSettings& settings() const { return settings_; }
+    // Stores the columns as the user left them, with the sort; a failure is reported once.
+    void keepColumns(const QList<BrowserSettings::Column>& columns);
     // Whether the column is hidden (SpalteFlagA, the key column).
     bool colHidden(const QString& column) const;
     // How many loads ran.
     int loadCount() const { return loadCount_; }
-    // Reorders the rows by a column (numbers numerically, text without case); the selected
-    // records stay selected and current.
+    // Orders the rows by a column through the database and keeps that sort for the user;
+    // the selected records stay selected and current where they stand within the first
+    // kSortFollowsWithin rows of the new order.
     void sortBy(const QString& column, bool ascending);
 
     // The user selects rows, the first current; SelectionChanged. Refused for rows that are
@@ -101,6 +120,18 @@ class HeadlessBrowser : public HeadlessControl, public IBrowser, public ISelecti
   private:
     int columnIndex(const QString& name) const;
     void checkRow(int row, const char* what) const;
+    // The keys of the selected rows and of the current row, for finding them again.
+    struct Marks {
+        QList<QVariant> selected;
+        QVariant current;
+    };
+    static constexpr int kMarksKept = 1000;
+    Marks marks() const;
+    void takeColumns(const QStringList& names);
+    static constexpr int kSortFollowsWithin = 100000;
+    // `within` above 0: a record further down than that many rows is not looked for.
+    void restore(const Marks& marks, int within = 0);
+    void store();
 
     QString titel_;
     QString schluessel_;
@@ -110,7 +141,9 @@ class HeadlessBrowser : public HeadlessControl, public IBrowser, public ISelecti
     long modus_ = 0;
     std::vector<std::unique_ptr<BrowserColumn>> columns_;
     std::vector<std::unique_ptr<BrowserColumn>> retired_;
-    std::vector<std::vector<QVariant>> records_;
+    BrowserRows rows_;
+    BrowserSettings settings_;
+    bool storeFailed_ = false;
     QList<int> selected_;
     int row_ = 0;
     HeadlessToolList tools_;

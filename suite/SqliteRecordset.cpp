@@ -379,6 +379,10 @@ QVariant SqliteRecordset::ReadValue(const QString& field) {
     return value(field);
 }
 
+QVariantList SqliteRecordset::ReadValues() {
+    return currentRow().values;
+}
+
 void SqliteRecordset::write(const QString& field, const QVariant& value) {
     requireOpen();
     if (lockMode_ == 0) {

@@ -42,6 +42,8 @@ class SqliteRecordset : public CRecordset {
     QString ReadText(const QString& field) override;
     QStringList FieldNames() override;
     QVariant ReadValue(const QString& field) override;
+    // The record's values as read, without a look-up by name; unsaved writes included.
+    QVariantList ReadValues() override;
 
     // A date column (declared type holding DATE or TIME) takes a whole number written by
     // WriteLong or WriteText as a day number since 1899-12-30, and a date text in the stored

@@ -107,7 +107,7 @@ has_type() {     # object column type
 
 for t in tAutoJobJob tAutoJobSchedule tAutoJobVerlauf SYS_JobAgentLogDaten XB_Belegart_iKesto \
          person_wirtschaftsjahr tAutoJobOptionen tAutoJob tAutoJobEinstellungen \
-         tSuiteText tMitarbeiter tMandant; do
+         tSuiteText tMitarbeiter tMandant tBrowserEinstellungen; do
     has_object table "$t"
 done
 has_object view V_ZPK_Applications_System_AutoJob
@@ -129,6 +129,7 @@ has_columns tAutoJobEinstellungen diDataType
 has_columns tSuiteText TextId Text
 has_columns tMitarbeiter MitId Name
 has_columns tMandant ManId ManNr Kanzlei Name
+has_columns tBrowserEinstellungen Schluessel MitarbeiterId Spalten SortSpalte SortAbsteigend
 has_columns V_ZPK_Applications_System_AutoJob JobId PSId Name Auftragsart "Mandant/Kanzlei" LetzteAusfuehrung
 has_columns SYS_JobAgentLogDaten_Anzeigen Id AutoJobId Typ Herkunft "Auftrag Kennung" Mitarbeiter \
     "Datum/Uhrzeit" Kategorie Auftragsart Name Text Zusatz
@@ -185,6 +186,8 @@ has_index SYS_JobAgentLogDaten DatumUhrzeit
 has_index SYS_JobAgentLogDaten AutoJobId
 has_index SYS_JobAgentLogDaten JobArt
 has_index SYS_JobAgentLogDaten LogTyp
+expect "one row of browser settings per key and staff member" \
+    "SELECT count(*) FROM pragma_index_list('tBrowserEinstellungen') WHERE \"unique\" = 1;" "1"
 
 # No rows in the schema alone
 TABLES="$(q "SELECT name FROM sqlite_master WHERE type = 'table' AND name NOT LIKE 'sqlite_%';")"

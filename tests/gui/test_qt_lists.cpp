@@ -8,9 +8,11 @@
 #include <QToolBar>
 
 #include "QtTestKit.h"
+#include "common/Clock.h"
 #include "gui/QtBrowser.h"
 #include "gui/QtSelection.h"
 #include "gui/QtToolBar.h"
+#include "suite/Database.h"
 #include "ui/windows/frmPakete.h"
 
 using namespace qt_test;
@@ -116,7 +118,31 @@ TEST_F(QtListsTest, SelectionListsClientsOfficesOrStaffAndKeepsTheId) {
               (QStringList{"Change ctlMitarbeiterBuchProp", "Change ctlMitarbeiterBuchProp"}));
 }
 
-class QtBrowserTest : public QtListsTest {
+// The browser reads through the database, so its tests have a real one.
+class QtBrowserDb : public ::testing::Test {
+  protected:
+    static Services world(const std::shared_ptr<Database>& db) {
+        Services s;
+        s.newRecordset = db->recordsetFactory();
+        return s;
+    }
+
+    std::shared_ptr<Database> db_ = [] {
+        auto d = Database::open(QStringLiteral(":memory:"),
+                                std::make_shared<FixedClock>(QDateTime(QDate(2026, 11, 22), {})));
+        d->runScript(QStringLiteral(
+            "CREATE TABLE tJob (idJob INTEGER PRIMARY KEY, Name TEXT, Art TEXT);"
+            "CREATE VIEW V_ZPK_Applications_System_AutoJob AS SELECT idJob AS JobId, Name, "
+            "  Art AS Auftragsart FROM tJob;"
+            "INSERT INTO tJob VALUES (1, 'Zweiter', 'Import Kunden');"
+            "INSERT INTO tJob VALUES (2, 'Erster', 'Import Buchungen');"
+            "INSERT INTO tJob VALUES (3, 'Dritter', 'Textdatei-Import');"));
+        return d;
+    }();
+    ScopedServices scope_{world(db_)};
+};
+
+class QtBrowserTest : public QtBrowserDb {
   protected:
     QtBrowserTest() {
         w.show();
@@ -214,7 +240,7 @@ TEST_F(QtBrowserTest, HeadingOfASortableColumnSorts) {
     EXPECT_TRUE(w.take().isEmpty());
 }
 
-TEST_F(QtListsTest, JobListFillsItsWindowWithTheBrowserAndHidesItsBar) {
+TEST_F(QtBrowserDb, JobListFillsItsWindowWithTheBrowserAndHidesItsBar) {
     QtWindowFactory factory;
     frmPakete list(factory.create(frmPakete::declaration()));
     QStringList raised;

@@ -85,7 +85,7 @@ TEST_F(BrowserTest, AFailingQueryThrowsAndKeepsTheRows) {
     EXPECT_EQ(sel.RecordCount(), 3);
 }
 
-TEST_F(BrowserTest, RefreshKeepsTheColumnFlagsAndClearsTheSelection) {
+TEST_F(BrowserTest, RefreshKeepsTheColumnFlagsAndTheSelectedRecord) {
     load();
     BrowserColumn* id = browser.Spalte(QStringLiteral("JobId"));
     ASSERT_NE(id, nullptr);
@@ -99,9 +99,17 @@ TEST_F(BrowserTest, RefreshKeepsTheColumnFlagsAndClearsTheSelection) {
     EXPECT_TRUE(kit.colHidden(QStringLiteral("JobId")));
     EXPECT_TRUE(browser.Spalte(QStringLiteral("Name"))->SpalteFlagB);
     EXPECT_FALSE(kit.colHidden(QStringLiteral("Name")));
-    EXPECT_EQ(sel.SelCount(), 0);
-    EXPECT_EQ(sel.Row(), 0);
+    EXPECT_EQ(sel.SelCount(), 1);
+    EXPECT_EQ(sel.Row(), 2);
     EXPECT_EQ(kit.loadCount(), 2);
+    db->runScript(QStringLiteral("DELETE FROM tJob WHERE idJob = 1;"));
+    browser.Refresh(false);
+    EXPECT_EQ(sel.Row(), 1) << "the record moved up";
+    EXPECT_EQ(kit.cellText(1, QStringLiteral("Name")), "Zweiter");
+    db->runScript(QStringLiteral("DELETE FROM tJob WHERE idJob = 2;"));
+    browser.Refresh(false);
+    EXPECT_EQ(sel.SelCount(), 0) << "its record is gone";
+    EXPECT_EQ(sel.Row(), 0);
 }
 
 TEST_F(BrowserTest, SelectionKeepsItsOrderAndRowMakesTheOnlySelectedRow) {
