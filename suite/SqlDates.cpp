@@ -137,3 +137,39 @@ qint64 dateDiff(DatePart part, const QDateTime& a, const QDateTime& b) {
     }
     return 0;
 }
+
+QDateTime startOfUnitsBefore(DatePart part, const QDateTime& now, qint64 n) {
+    const QDate today = now.date();
+    auto fromSecondIndex = [](qint64 index) {
+        return QDateTime(QDate::fromJulianDay(index / 86400),
+                         QTime(0, 0).addSecs(static_cast<int>(index % 86400)));
+    };
+    switch (part) {
+        case DatePart::Year:
+            return QDateTime(QDate(static_cast<int>(today.year() - n), 1, 1), QTime(0, 0));
+        case DatePart::Quarter: {
+            const qint64 quarter = today.year() * 4 + (today.month() - 1) / 3 - n;
+            return QDateTime(
+                QDate(static_cast<int>(quarter / 4), static_cast<int>(quarter % 4) * 3 + 1, 1),
+                QTime(0, 0));
+        }
+        case DatePart::Month: {
+            const qint64 month = today.year() * 12 + today.month() - 1 - n;
+            return QDateTime(
+                QDate(static_cast<int>(month / 12), static_cast<int>(month % 12) + 1, 1),
+                QTime(0, 0));
+        }
+        case DatePart::Week:
+            // The first day of week w is the Sunday with Julian day 7w - 1.
+            return QDateTime(QDate::fromJulianDay((weekIndex(today) - n) * 7 - 1), QTime(0, 0));
+        case DatePart::Day:
+            return QDateTime(today.addDays(-n), QTime(0, 0));
+        case DatePart::Hour:
+            return fromSecondIndex((secondIndex(now) / 3600 - n) * 3600);
+        case DatePart::Minute:
+            return fromSecondIndex((secondIndex(now) / 60 - n) * 60);
+        case DatePart::Second:
+            return fromSecondIndex(secondIndex(now) - n);
+    }
+    return now;
+}

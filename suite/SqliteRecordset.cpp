@@ -95,6 +95,13 @@ QSqlDatabase SqliteRecordset::connection() const {
     return QSqlDatabase::database(db->connectionName(), false);
 }
 
+QString SqliteRecordset::translated(const QString& sql) const {
+    // getdate() of the period condition is fixed once for the statement, so that its index
+    // can serve it.
+    const std::shared_ptr<Database> db = database_.lock();
+    return db ? SqlDialect::translate(sql, db->clock().now()) : SqlDialect::translate(sql);
+}
+
 void SqliteRecordset::Connect() {
     connection();
 }
@@ -103,7 +110,7 @@ void SqliteRecordset::Disconnect() {}
 
 long SqliteRecordset::OpenQuery(const QString& sql, long lockMode) {
     Close();
-    QString statement = SqlDialect::translate(sql);
+    QString statement = translated(sql);
     const QSqlDatabase db = connection();
 
     const auto source = SqlDialect::singleSource(statement);
@@ -335,7 +342,7 @@ bool SqliteRecordset::Move(long direction) {
 }
 
 long SqliteRecordset::Execute(const QString& sql) {
-    const QString statement = SqlDialect::translate(sql);
+    const QString statement = translated(sql);
     const QSqlQuery query = run(connection(), statement, {}, sql);
     const QString keyword = SqlDialect::leadingKeyword(statement);
     if (keyword == u"insert" || keyword == u"update" || keyword == u"delete" ||

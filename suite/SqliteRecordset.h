@@ -66,6 +66,7 @@ class SqliteRecordset : public CRecordset {
     };
 
     QSqlDatabase connection() const;
+    QString translated(const QString& sql) const;
     void requireOpen() const;
     qsizetype fieldIndex(const QString& field) const;
     Row& currentRow();
