@@ -296,7 +296,14 @@ AgentCounts JobAgentSimulator::fillYears() {
         qint64 at;
         qsizetype schedule;
         qint64 left;  // runs still to write, -1 until the period ends
-        qint64 step;
+        qint64 step;  // seconds to the next run; 0 spreads `count` runs evenly over the period
+        qint64 index = 0;
+        qint64 count = 0;
+        qint64 offset = 0;
+    };
+    // Run k of n evenly over the period, in the middle of its share of it.
+    auto spread = [start, span](qint64 k, qint64 n, qint64 offset) {
+        return start + span * (2 * k + 1) / (2 * n) + offset;
     };
     auto later = [](const Next& a, const Next& b) { return a.at > b.at; };
     std::priority_queue<Next, std::vector<Next>, decltype(later)> queue(later);
@@ -312,8 +319,7 @@ AgentCounts JobAgentSimulator::fillYears() {
             const int k = seen[s.idJob]++;
             const qint64 count = options_.runsPerJob / n + (k == 0 ? options_.runsPerJob % n : 0);
             if (count > 0) {
-                const qint64 step = std::max<qint64>(1, span / count);
-                queue.push(Next{start + step / 2 + k, i, count, step});
+                queue.push(Next{spread(0, count, k), i, count, 0, 0, count, k});
             }
         } else if (s.intervalSecs == 0) {
             queue.push(Next{start + static_cast<qint64>(rng_() % span), i, 1, 1});
@@ -344,7 +350,7 @@ AgentCounts JobAgentSimulator::fillYears() {
         }
         if (n.left != 1) {
             n.left = n.left > 0 ? n.left - 1 : n.left;
-            n.at += n.step;
+            n.at = n.step > 0 ? n.at + n.step : spread(++n.index, n.count, n.offset);
             queue.push(n);
         }
     }

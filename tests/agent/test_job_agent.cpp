@@ -66,6 +66,10 @@ TEST_F(JobAgent, BulkWritesTheGivenRunsPerJobOverThePeriodAndCountsThem) {
     EXPECT_EQ(count("SELECT count(*) FROM tAutoJobVerlauf WHERE LetzteAusfuehrung < "
                     "'2022-03-01 08:15:00' OR LetzteAusfuehrung > '2024-03-01 08:15:00'"),
               0);
+    // Spread over the whole period: the latest runs lie in its last days.
+    EXPECT_GT(count("SELECT count(*) FROM tAutoJobVerlauf WHERE LetzteAusfuehrung >= "
+                    "'2024-02-28 00:00:00'"),
+              0);
     EXPECT_EQ(count("SELECT count(*) FROM tAutoJobVerlauf a JOIN tAutoJobVerlauf b ON "
                     "b.idAutoJobVerlauf = a.idAutoJobVerlauf + 1 WHERE b.LetzteAusfuehrung < "
                     "a.LetzteAusfuehrung"),
