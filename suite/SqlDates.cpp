@@ -21,7 +21,45 @@ QString storedDateText(const QDateTime& value) {
     return value.toString(QStringLiteral("yyyy-MM-dd HH:mm:ss"));
 }
 
+namespace {
+
+// The stored form 'yyyy-MM-dd HH:mm:ss' read without a pattern: it is by far the most common.
+std::optional<QDateTime> parseStoredForm(QStringView t) {
+    if (t.size() != 19 || t[4] != u'-' || t[7] != u'-' || t[10] != u' ' || t[13] != u':' ||
+        t[16] != u':') {
+        return std::nullopt;
+    }
+    auto number = [&t](int at, int digits) {
+        int value = 0;
+        for (int k = at; k < at + digits; ++k) {
+            if (t[k] < u'0' || t[k] > u'9') {
+                return -1;
+            }
+            value = value * 10 + (t[k].unicode() - u'0');
+        }
+        return value;
+    };
+    const int parts[] = {number(0, 4),  number(5, 2),  number(8, 2),
+                         number(11, 2), number(14, 2), number(17, 2)};
+    for (const int p : parts) {
+        if (p < 0) {
+            return std::nullopt;
+        }
+    }
+    const QDate date(parts[0], parts[1], parts[2]);
+    const QTime time(parts[3], parts[4], parts[5]);
+    if (!date.isValid() || !time.isValid()) {
+        return std::nullopt;
+    }
+    return QDateTime(date, time);
+}
+
+}  // namespace
+
 std::optional<QDateTime> parseDateText(QStringView text) {
+    if (auto stored = parseStoredForm(text)) {
+        return stored;
+    }
     static const QRegularExpression iso(QStringLiteral(
         R"(^(\d{4})-(\d{1,2})-(\d{1,2})(?:[ T](\d{1,2}):(\d{2})(?::(\d{2})(?:[.,](\d{1,9}))?)?)?$)"));
     static const QRegularExpression german(

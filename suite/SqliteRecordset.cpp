@@ -154,6 +154,7 @@ void SqliteRecordset::Close() {
     tableColumns_.clear();
     columns_.clear();
     index_.clear();
+    spelled_.clear();
     rows_.clear();
     current_ = 0;
 }
@@ -163,6 +164,7 @@ qsizetype SqliteRecordset::addColumn(const QString& name) {
     columns_.append(Column{name, tableColumns_.value(key, false)});
     // The first of two equal names wins, as in the suite's record object.
     index_.insert(key, index_.value(key, columns_.size() - 1));
+    spelled_.clear();
     for (Row& row : rows_) {
         row.values.append(QVariant());
         row.written.append(false);
@@ -185,10 +187,14 @@ void SqliteRecordset::requireUpdatable() const {
 
 qsizetype SqliteRecordset::fieldIndex(const QString& field) const {
     requireOpen();
+    if (const auto known = spelled_.constFind(field); known != spelled_.constEnd()) {
+        return *known;
+    }
     const auto it = index_.constFind(field.toLower());
     if (it == index_.constEnd()) {
         throw SqlErrors::unknownField(field);
     }
+    spelled_.insert(field, *it);
     return *it;
 }
 
