@@ -309,11 +309,18 @@ LEFT JOIN tMandant m
        ON m.ManId = j.Ps_Id_Mandant
 LEFT JOIN tMitarbeiter ma
        ON ma.MitId = j.Ps_Id_Mitarbeiter
+-- The latest run is looked up per schedule on the index of schedule and time, so
+-- that a job with millions of runs costs no more than one without.
 LEFT JOIN tAutoJobVerlauf lv
        ON lv.idAutoJobVerlauf = (
               SELECT v.idAutoJobVerlauf
                 FROM tAutoJobSchedule s
-                JOIN tAutoJobVerlauf v ON v.idAutoJobSchedule = s.idAutoJobSchedule
+                JOIN tAutoJobVerlauf v
+                  ON v.idAutoJobSchedule = s.idAutoJobSchedule
+                 AND v.LetzteAusfuehrung = (
+                         SELECT max(z.LetzteAusfuehrung)
+                           FROM tAutoJobVerlauf z
+                          WHERE z.idAutoJobSchedule = s.idAutoJobSchedule)
                WHERE s.idAutoJob = j.idAutoJob
                ORDER BY v.LetzteAusfuehrung DESC, v.idAutoJobVerlauf DESC
                LIMIT 1);

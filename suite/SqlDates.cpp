@@ -21,7 +21,45 @@ QString storedDateText(const QDateTime& value) {
     return value.toString(QStringLiteral("yyyy-MM-dd HH:mm:ss"));
 }
 
+namespace {
+
+// The stored form 'yyyy-MM-dd HH:mm:ss' read without a pattern: it is by far the most common.
+std::optional<QDateTime> parseStoredForm(QStringView t) {
+    if (t.size() != 19 || t[4] != u'-' || t[7] != u'-' || t[10] != u' ' || t[13] != u':' ||
+        t[16] != u':') {
+        return std::nullopt;
+    }
+    auto number = [&t](int at, int digits) {
+        int value = 0;
+        for (int k = at; k < at + digits; ++k) {
+            if (t[k] < u'0' || t[k] > u'9') {
+                return -1;
+            }
+            value = value * 10 + (t[k].unicode() - u'0');
+        }
+        return value;
+    };
+    const int parts[] = {number(0, 4),  number(5, 2),  number(8, 2),
+                         number(11, 2), number(14, 2), number(17, 2)};
+    for (const int p : parts) {
+        if (p < 0) {
+            return std::nullopt;
+        }
+    }
+    const QDate date(parts[0], parts[1], parts[2]);
+    const QTime time(parts[3], parts[4], parts[5]);
+    if (!date.isValid() || !time.isValid()) {
+        return std::nullopt;
+    }
+    return QDateTime(date, time);
+}
+
+}  // namespace
+
 std::optional<QDateTime> parseDateText(QStringView text) {
+    if (auto stored = parseStoredForm(text)) {
+        return stored;
+    }
     static const QRegularExpression iso(QStringLiteral(
         R"(^(\d{4})-(\d{1,2})-(\d{1,2})(?:[ T](\d{1,2}):(\d{2})(?::(\d{2})(?:[.,](\d{1,9}))?)?)?$)"));
     static const QRegularExpression german(
@@ -136,4 +174,40 @@ qint64 dateDiff(DatePart part, const QDateTime& a, const QDateTime& b) {
             return secondIndex(b) - secondIndex(a);
     }
     return 0;
+}
+
+QDateTime startOfUnitsBefore(DatePart part, const QDateTime& now, qint64 n) {
+    const QDate today = now.date();
+    auto fromSecondIndex = [](qint64 index) {
+        return QDateTime(QDate::fromJulianDay(index / 86400),
+                         QTime(0, 0).addSecs(static_cast<int>(index % 86400)));
+    };
+    switch (part) {
+        case DatePart::Year:
+            return QDateTime(QDate(static_cast<int>(today.year() - n), 1, 1), QTime(0, 0));
+        case DatePart::Quarter: {
+            const qint64 quarter = today.year() * 4 + (today.month() - 1) / 3 - n;
+            return QDateTime(
+                QDate(static_cast<int>(quarter / 4), static_cast<int>(quarter % 4) * 3 + 1, 1),
+                QTime(0, 0));
+        }
+        case DatePart::Month: {
+            const qint64 month = today.year() * 12 + today.month() - 1 - n;
+            return QDateTime(
+                QDate(static_cast<int>(month / 12), static_cast<int>(month % 12) + 1, 1),
+                QTime(0, 0));
+        }
+        case DatePart::Week:
+            // The first day of week w is the Sunday with Julian day 7w - 1.
+            return QDateTime(QDate::fromJulianDay((weekIndex(today) - n) * 7 - 1), QTime(0, 0));
+        case DatePart::Day:
+            return QDateTime(today.addDays(-n), QTime(0, 0));
+        case DatePart::Hour:
+            return fromSecondIndex((secondIndex(now) / 3600 - n) * 3600);
+        case DatePart::Minute:
+            return fromSecondIndex((secondIndex(now) / 60 - n) * 60);
+        case DatePart::Second:
+            return fromSecondIndex(secondIndex(now) - n);
+    }
+    return now;
 }

@@ -27,3 +27,7 @@ QString datePartName(DatePart part);
 // The number of unit boundaries crossed from a to b, negative when b lies before a. A week
 // begins on Sunday.
 qint64 dateDiff(DatePart part, const QDateTime& a, const QDateTime& b);
+// The earliest moment t with dateDiff(part, t, now) <= n: the start of the unit that lies n
+// units before the one of now (a week starting on Sunday). Every later moment, the future
+// included, counts n or fewer boundaries up to now.
+QDateTime startOfUnitsBefore(DatePart part, const QDateTime& now, qint64 n);

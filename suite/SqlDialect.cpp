@@ -13,6 +13,15 @@ namespace {
 
 using Tokens = QList<SqlToken>;
 
+qsizetype lastSignificantToken(const Tokens& tokens, qsizetype i) {
+    for (--i; i >= 0; --i) {
+        if (tokens[i].significant()) {
+            return i;
+        }
+    }
+    return -1;
+}
+
 qsizetype nextSignificant(const Tokens& tokens, qsizetype i) {
     for (++i; i < tokens.size(); ++i) {
         if (tokens[i].significant()) {
@@ -71,10 +80,102 @@ std::optional<std::pair<QString, qsizetype>> topClause(const Tokens& tokens, qsi
     return std::nullopt;
 }
 
+// Words that may stand before a condition of its own, and behind one.
+bool opensCondition(const Tokens& tokens, qsizetype i) {
+    if (i < 0) {
+        return true;
+    }
+    static const QSet<QString> words{"where", "and", "or", "on", "not", "when", "having"};
+    return tokens[i].isPunct(u'(') ||
+           (tokens[i].kind == SqlTokenKind::Word && words.contains(tokens[i].text.toLower()));
+}
+
+bool closesCondition(const Tokens& tokens, qsizetype i) {
+    if (i < 0) {
+        return true;
+    }
+    static const QSet<QString> words{"and",  "or",  "order", "group",  "limit",  "having",
+                                     "then", "end", "union", "except", "window", "intersect"};
+    return tokens[i].isPunct(u')') ||
+           (tokens[i].kind == SqlTokenKind::Word && words.contains(tokens[i].text.toLower()));
+}
+
+struct PeriodCondition {
+    DatePart part;
+    QString column;  // as written, qualifier included
+    qint64 count;    // the n of `<= n`
+    qsizetype last;  // index of the token of n
+};
+
+// `datediff(<unit>, <column>, getdate()) <= <n>` from index `at`, standing alone as a condition.
+std::optional<PeriodCondition> periodCondition(const Tokens& tokens, qsizetype at,
+                                               qsizetype before) {
+    if (!opensCondition(tokens, before)) {
+        return std::nullopt;
+    }
+    qsizetype i = nextSignificant(tokens, at);
+    auto step = [&]() { return i = i >= 0 ? nextSignificant(tokens, i) : -1; };
+    if (!isPunctAt(tokens, i, u'(') || step() < 0 || tokens[i].kind != SqlTokenKind::Word) {
+        return std::nullopt;
+    }
+    const auto part = datePartFromName(tokens[i].text);
+    if (!part || !isPunctAt(tokens, step(), u',') || step() < 0) {
+        return std::nullopt;
+    }
+    auto isName = [&](qsizetype k) {
+        return k >= 0 &&
+               (tokens[k].kind == SqlTokenKind::Word || tokens[k].kind == SqlTokenKind::QuotedName);
+    };
+    if (!isName(i)) {
+        return std::nullopt;
+    }
+    QString column = tokens[i].text;
+    if (isPunctAt(tokens, step(), u'.')) {
+        if (!isName(step())) {
+            return std::nullopt;
+        }
+        column += u'.' + tokens[i].text;
+        step();
+    }
+    if (!isPunctAt(tokens, i, u',') || !isWordAt(tokens, step(), u"getdate") ||
+        !isPunctAt(tokens, step(), u'(') || !isPunctAt(tokens, step(), u')') ||
+        !isPunctAt(tokens, step(), u')') || !isPunctAt(tokens, step(), u'<') ||
+        !isPunctAt(tokens, i + 1, u'=') || (i = i + 1, step() < 0) ||
+        tokens[i].kind != SqlTokenKind::Number) {
+        return std::nullopt;
+    }
+    bool whole = false;
+    const qint64 count = tokens[i].text.toLongLong(&whole);
+    if (!whole || count > 100000 || !closesCondition(tokens, nextSignificant(tokens, i))) {
+        return std::nullopt;
+    }
+    return PeriodCondition{*part, column, count, i};
+}
+
+// The start as a literal that compares with stored date texts as the dates compare. A start at
+// midnight goes without its time, so that a date stored without a time still counts on that day.
+QString startLiteral(const QDateTime& start) {
+    return u'\'' +
+           start.toString(start.time() == QTime(0, 0) ? QStringLiteral("yyyy-MM-dd")
+                                                      : QStringLiteral("yyyy-MM-dd HH:mm:ss")) +
+           u'\'';
+}
+
+QString translateTokens(const Tokens& tokens, const std::optional<QDateTime>& now);
+
 }  // namespace
 
 QString translate(const QString& serverSql) {
-    const Tokens tokens = firstStatement(serverSql);
+    return translateTokens(firstStatement(serverSql), std::nullopt);
+}
+
+QString translate(const QString& serverSql, const QDateTime& now) {
+    return translateTokens(firstStatement(serverSql), now);
+}
+
+namespace {
+
+QString translateTokens(const Tokens& tokens, const std::optional<QDateTime>& now) {
     QList<QString> pieces;
     for (const SqlToken& t : tokens) {
         pieces.append(t.text);
@@ -131,6 +232,18 @@ QString translate(const QString& serverSql) {
             ++i;
             continue;
         } else if (t.isWord(u"datediff") && isPunctAt(tokens, next, u'(')) {
+            if (const auto period =
+                    now ? periodCondition(tokens, i, lastSignificantToken(tokens, i))
+                        : std::nullopt) {
+                pieces[i] = period->column + QStringLiteral(" >= ") +
+                            startLiteral(startOfUnitsBefore(period->part, *now, period->count));
+                for (qsizetype k = i + 1; k <= period->last; ++k) {
+                    pieces[k].clear();
+                }
+                lastSignificant = i;
+                i = period->last;
+                continue;
+            }
             const qsizetype unit = nextSignificant(tokens, next);
             if (unit >= 0 && tokens[unit].kind == SqlTokenKind::Word) {
                 if (const auto part = datePartFromName(tokens[unit].text)) {
@@ -148,6 +261,8 @@ QString translate(const QString& serverSql) {
     closeLimits(0);
     return pieces.join(QString());
 }
+
+}  // namespace
 
 std::optional<SingleSource> singleSource(const QString& sqliteSql) {
     const Tokens all = tokenizeSql(sqliteSql);

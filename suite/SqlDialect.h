@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QDateTime>
 #include <QString>
 #include <optional>
 
@@ -13,6 +14,13 @@ namespace SqlDialect {
 // Nothing inside a literal, a quoted name or a comment is touched. A single trailing `;` is
 // allowed; any statement after it throws RaisedError, so that nothing of the text runs.
 QString translate(const QString& serverSql);
+// The same, and with the moment of getdate() known: the history's period condition
+// `datediff(<unit>, <column>, getdate()) <= <n>` becomes `<column> >= '<start>'`, the start
+// of the unit n units before now, so that an index on the column serves it. The two select
+// the same rows for dates stored as the system stores them (SqlDates.h). Only the condition
+// standing alone between AND, OR, WHERE, ON or brackets is rewritten; every other datediff
+// stays a function call.
+QString translate(const QString& serverSql, const QDateTime& now);
 
 // A select that reads from exactly one table or view by name, with no join, union, grouping
 // or distinct, so that every row of its result is one row of that table.

@@ -95,6 +95,13 @@ QSqlDatabase SqliteRecordset::connection() const {
     return QSqlDatabase::database(db->connectionName(), false);
 }
 
+QString SqliteRecordset::translated(const QString& sql) const {
+    // getdate() of the period condition is fixed once for the statement, so that its index
+    // can serve it.
+    const std::shared_ptr<Database> db = database_.lock();
+    return db ? SqlDialect::translate(sql, db->clock().now()) : SqlDialect::translate(sql);
+}
+
 void SqliteRecordset::Connect() {
     connection();
 }
@@ -103,7 +110,7 @@ void SqliteRecordset::Disconnect() {}
 
 long SqliteRecordset::OpenQuery(const QString& sql, long lockMode) {
     Close();
-    QString statement = SqlDialect::translate(sql);
+    QString statement = translated(sql);
     const QSqlDatabase db = connection();
 
     const auto source = SqlDialect::singleSource(statement);
@@ -147,6 +154,7 @@ void SqliteRecordset::Close() {
     tableColumns_.clear();
     columns_.clear();
     index_.clear();
+    spelled_.clear();
     rows_.clear();
     current_ = 0;
 }
@@ -156,6 +164,7 @@ qsizetype SqliteRecordset::addColumn(const QString& name) {
     columns_.append(Column{name, tableColumns_.value(key, false)});
     // The first of two equal names wins, as in the suite's record object.
     index_.insert(key, index_.value(key, columns_.size() - 1));
+    spelled_.clear();
     for (Row& row : rows_) {
         row.values.append(QVariant());
         row.written.append(false);
@@ -178,10 +187,14 @@ void SqliteRecordset::requireUpdatable() const {
 
 qsizetype SqliteRecordset::fieldIndex(const QString& field) const {
     requireOpen();
+    if (const auto known = spelled_.constFind(field); known != spelled_.constEnd()) {
+        return *known;
+    }
     const auto it = index_.constFind(field.toLower());
     if (it == index_.constEnd()) {
         throw SqlErrors::unknownField(field);
     }
+    spelled_.insert(field, *it);
     return *it;
 }
 
@@ -335,7 +348,7 @@ bool SqliteRecordset::Move(long direction) {
 }
 
 long SqliteRecordset::Execute(const QString& sql) {
-    const QString statement = SqlDialect::translate(sql);
+    const QString statement = translated(sql);
     const QSqlQuery query = run(connection(), statement, {}, sql);
     const QString keyword = SqlDialect::leadingKeyword(statement);
     if (keyword == u"insert" || keyword == u"update" || keyword == u"delete" ||

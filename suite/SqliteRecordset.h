@@ -68,6 +68,7 @@ class SqliteRecordset : public CRecordset {
     };
 
     QSqlDatabase connection() const;
+    QString translated(const QString& sql) const;
     void requireOpen() const;
     qsizetype fieldIndex(const QString& field) const;
     Row& currentRow();
@@ -91,6 +92,9 @@ class SqliteRecordset : public CRecordset {
     QHash<QString, bool> tableColumns_;  // lower-case column name -> is a date column
     QList<Column> columns_;
     QHash<QString, qsizetype> index_;  // lower-case name -> column
+    // The names as the caller spells them, found once: a grid of many rows reads the same
+    // few names again and again.
+    mutable QHash<QString, qsizetype> spelled_;
     QList<Row> rows_;
     qsizetype current_ = 0;
 };

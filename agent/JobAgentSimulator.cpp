@@ -1,0 +1,407 @@
+#include "agent/JobAgentSimulator.h"
+
+#include <sqlite3.h>
+
+#include <QSqlDatabase>
+#include <QSqlDriver>
+#include <QSqlError>
+#include <QSqlQuery>
+#include <array>
+#include <queue>
+
+#include "suite/Database.h"
+#include "suite/SqlErrors.h"
+
+namespace {
+
+sqlite3* handleOf(const Database& database) {
+    const QSqlDatabase db = QSqlDatabase::database(database.connectionName(), false);
+    const QVariant handle = db.driver()->handle();
+    if (handle.isValid() && qstrcmp(handle.typeName(), "sqlite3*") == 0) {
+        return *static_cast<sqlite3* const*>(handle.constData());
+    }
+    throw SqlErrors::raised(ErrNumber::Database,
+                            QStringLiteral("Die Verbindung gibt keinen SQLite-Zugriff."));
+}
+
+// Seconds on a plain calendar: day number times 86400 plus the time of day.
+qint64 secondsOf(const QDateTime& t) {
+    return t.date().toJulianDay() * 86400 + t.time().msecsSinceStartOfDay() / 1000;
+}
+
+QDateTime fromSeconds(qint64 s) {
+    return QDateTime(QDate::fromJulianDay(s / 86400),
+                     QTime(0, 0).addSecs(static_cast<int>(s % 86400)));
+}
+
+// 'yyyy-MM-dd HH:mm:ss' without the cost of a general formatter: bulk writes millions.
+QByteArray storedText(qint64 s) {
+    const QDate d = QDate::fromJulianDay(s / 86400);
+    const int secs = static_cast<int>(s % 86400);
+    char buf[20];
+    auto put = [&buf](int at, int value, int digits) {
+        for (int k = digits - 1; k >= 0; --k) {
+            buf[at + k] = static_cast<char>('0' + value % 10);
+            value /= 10;
+        }
+    };
+    put(0, d.year(), 4);
+    buf[4] = '-';
+    put(5, d.month(), 2);
+    buf[7] = '-';
+    put(8, d.day(), 2);
+    buf[10] = ' ';
+    put(11, secs / 3600, 2);
+    buf[13] = ':';
+    put(14, secs / 60 % 60, 2);
+    buf[16] = ':';
+    put(17, secs % 60, 2);
+    return QByteArray(buf, 19);
+}
+
+void check(sqlite3* db, int rc, const char* what) {
+    if (rc != SQLITE_OK && rc != SQLITE_DONE && rc != SQLITE_ROW) {
+        throw SqlErrors::raised(rc & 0xff, QString::fromUtf8(sqlite3_errmsg(db)) +
+                                               QStringLiteral("\r\n") + QString::fromUtf8(what));
+    }
+}
+
+void bindText(sqlite3_stmt* st, int at, const QByteArray& text) {
+    sqlite3_bind_text(st, at, text.constData(), static_cast<int>(text.size()), SQLITE_TRANSIENT);
+}
+
+// A file in a directory, with the directory's own separator.
+QString inDirectory(const QString& dir, const QString& name) {
+    return dir + (dir.contains(u'\\') || !dir.contains(u'/') ? u'\\' : u'/') + name;
+}
+
+void bindText(sqlite3_stmt* st, int at, const QString& text) {
+    bindText(st, at, text.toUtf8());
+}
+
+// How often a schedule runs, in seconds; 0 for a single run.
+qint64 intervalOf(int type, int interval, int recurrence, int subDay, int subDayInterval) {
+    if (subDay == 4 && subDayInterval > 0) {
+        return subDayInterval * 60LL;
+    }
+    if (subDay == 8 && subDayInterval > 0) {
+        return subDayInterval * 3600LL;
+    }
+    switch (type) {
+        case 1:
+            return 0;
+        case 4:
+            return std::max(1, interval) * 86400LL;
+        case 8: {
+            const int days = std::max(1, __builtin_popcount(static_cast<unsigned>(interval & 127)));
+            return std::max(1, recurrence) * 7 * 86400LL / days;
+        }
+        default:
+            return std::max(1, recurrence) * 30 * 86400LL;
+    }
+}
+
+const char* const kInsertRun =
+    "INSERT INTO tAutoJobVerlauf (idAutoJobSchedule, LetzteAusfuehrung, Erfolgreich, MTAPath, "
+    "BackupPath, ErrorMTA) VALUES (?, ?, ?, ?, ?, ?)";
+const char* const kInsertLog =
+    "INSERT INTO SYS_JobAgentLogDaten (DatumUhrzeit, LogTyp, LogSubTyp, JobArt, AutoJobId, "
+    "MitarbeiterId, Herkunft, AuftragKennung, Kategorie, Name, Text, Zusatz) "
+    "VALUES (?, ?, 0, ?, ?, 0, ?, ?, ?, ?, ?, ?)";
+
+}  // namespace
+
+JobAgentSimulator::JobAgentSimulator(std::shared_ptr<Database> database, AgentOptions options)
+    : database_(std::move(database)), options_(options), rng_(options.seed) {
+    db_ = handleOf(*database_);
+}
+
+JobAgentSimulator::~JobAgentSimulator() {
+    sqlite3_finalize(insertRun_);
+    sqlite3_finalize(insertLog_);
+}
+
+int JobAgentSimulator::loadSchedules() {
+    QSqlQuery query(QSqlDatabase::database(database_->connectionName(), false));
+    QString sql = QStringLiteral(
+        "SELECT s.idAutoJobSchedule, j.idAutoJob, j.DatenArt, j.Name, j.MTAPath, j.BackupPath, "
+        "j.ErrorMTA, COALESCE(m.ManNr, 0), s.FreqencyType, s.FrequencyInterval, "
+        "s.FrequencyRecurrenceFactor, s.FrequencySubDay, s.FrequencySubDayinterval "
+        "FROM tAutoJobSchedule s JOIN tAutoJobJob j ON j.idAutoJob = s.idAutoJob "
+        "LEFT JOIN tMandant m ON m.ManId = j.Ps_Id_Mandant "
+        "WHERE s.Aktiviert <> 0");
+    if (options_.jobId > 0) {
+        sql += QStringLiteral(" AND j.idAutoJob = %1").arg(options_.jobId);
+    }
+    sql += QStringLiteral(" ORDER BY s.idAutoJobSchedule");
+    if (!query.exec(sql)) {
+        throw SqlErrors::fromDriver(query.lastError(), sql);
+    }
+    schedules_.clear();
+    while (query.next()) {
+        Schedule s;
+        s.idSchedule = query.value(0).toLongLong();
+        s.idJob = query.value(1).toLongLong();
+        s.datenArt = query.value(2).toInt();
+        s.jobName = query.value(3).toString();
+        s.mtaPath = query.value(4).toString();
+        s.backupPath = query.value(5).toString();
+        s.errorMta = query.value(6).toString();
+        s.mandant = query.value(7).toLongLong();
+        s.intervalSecs =
+            intervalOf(query.value(8).toInt(), query.value(9).toInt(), query.value(10).toInt(),
+                       query.value(11).toInt(), query.value(12).toInt());
+        schedules_.append(s);
+    }
+    return static_cast<int>(schedules_.size());
+}
+
+void JobAgentSimulator::prepare() {
+    if (insertRun_ == nullptr) {
+        check(db_, sqlite3_prepare_v2(db_, kInsertRun, -1, &insertRun_, nullptr), kInsertRun);
+        check(db_, sqlite3_prepare_v2(db_, kInsertLog, -1, &insertLog_, nullptr), kInsertLog);
+    }
+}
+
+void JobAgentSimulator::begin() {
+    // Immediate: the write lock is taken at once, so the transaction never has to give up
+    // halfway for a reader that turned writer.
+    check(db_, sqlite3_exec(db_, "BEGIN IMMEDIATE", nullptr, nullptr, nullptr), "BEGIN");
+}
+
+void JobAgentSimulator::commit() {
+    check(db_, sqlite3_exec(db_, "COMMIT", nullptr, nullptr, nullptr), "COMMIT");
+}
+
+int JobAgentSimulator::resultCode(int datenArt) {
+    const unsigned roll = rng_() % 100;
+    const bool ok = roll < 85;
+    const bool nothing = roll >= 95;
+    switch (datenArt) {
+        case 4:
+        case 17:
+        case 18:
+            return ok ? 1 : nothing ? 2 : 0;
+        case 28:
+            return ok ? 1 : nothing ? 4 : 0;
+        case 30:
+            return ok ? 1 : nothing ? 5 : 0;
+        case 20:
+            return ok ? 10 : 11;
+        case 21:
+            return ok ? 20 : 21;
+        default:
+            return ok ? 1 : 0;
+    }
+}
+
+// The log file a run of this job type leaves in its log directory.
+QString JobAgentSimulator::logFileName(const Schedule& s, const QDateTime& at) const {
+    const QString stamp = at.toString(QStringLiteral("yyyyMMdd_HHmmss"));
+    switch (s.datenArt) {
+        case 4:
+        case 28:
+            return QStringLiteral("Buchungen%1_%2.Log").arg(s.mandant).arg(stamp);
+        case 17:
+            return QStringLiteral("KUND%1_%2.XLS").arg(s.mandant).arg(stamp);
+        case 18:
+            return QStringLiteral("LIEF%1_%2.XLS").arg(s.mandant).arg(stamp);
+        case 20:
+            return QStringLiteral("ScanDokument_%1.txt").arg(stamp);
+        case 21:
+            return QStringLiteral("Verschlagwortung_%1.txt").arg(stamp);
+        default:
+            return QStringLiteral("Auftrag%1_%2.log").arg(s.idJob).arg(stamp);
+    }
+}
+
+void JobAgentSimulator::writeLog(const QDateTime& at, int logTyp, const Schedule* s,
+                                 const QString& kategorie, const QString& text,
+                                 const QString& zusatz) {
+    sqlite3_stmt* st = insertLog_;
+    bindText(st, 1, storedText(secondsOf(at)));
+    sqlite3_bind_int(st, 2, logTyp);
+    sqlite3_bind_int(st, 3, s ? s->datenArt : 0);
+    sqlite3_bind_int64(st, 4, s ? s->idJob : 0);
+    if (logTyp == 2) {
+        sqlite3_bind_null(st, 5);
+        bindText(st, 6,
+                 QStringLiteral("%1-%2").arg(s->idJob).arg(
+                     runAt_.toString(QStringLiteral("yyyyMMddHHmmss"))));
+        bindText(st, 8, s->jobName);
+    } else {
+        bindText(st, 5, QByteArrayLiteral("JobAgent"));
+        sqlite3_bind_null(st, 6);
+        bindText(st, 8, QByteArrayLiteral("Dienst"));
+    }
+    bindText(st, 7, kategorie);
+    bindText(st, 9, text);
+    bindText(st, 10, zusatz);
+    check(db_, sqlite3_step(st), kInsertLog);
+    sqlite3_reset(st);
+    ++counts_.logEntries;
+}
+
+void JobAgentSimulator::writeServiceEntry(const QDateTime& at) {
+    writeLog(at, 1, nullptr, QStringLiteral("Information"),
+             QStringLiteral("Zeitpläne geprüft: %1 aktive Zeitpläne").arg(schedules_.size()),
+             QString());
+}
+
+void JobAgentSimulator::writeRun(const Schedule& s, const QDateTime& at) {
+    const int code = resultCode(s.datenArt);
+    const bool failed = code == 0 || code == 11 || code == 21;
+    const bool archive = s.datenArt == 20 || s.datenArt == 21;
+    const QString stamp = at.toString(QStringLiteral("yyyyMMdd_HHmmss"));
+    runAt_ = at;
+    sqlite3_stmt* st = insertRun_;
+    sqlite3_bind_int64(st, 1, s.idSchedule);
+    bindText(st, 2, storedText(secondsOf(at)));
+    sqlite3_bind_int(st, 3, code);
+    bindText(st, 4, s.mtaPath);
+    // The backup column of archive and direct jobs holds no directory.
+    bindText(st, 5, archive || s.datenArt == 28 ? QString() : inDirectory(s.backupPath, stamp));
+    bindText(st, 6, s.errorMta);
+    check(db_, sqlite3_step(st), kInsertRun);
+    sqlite3_reset(st);
+    ++counts_.runs;
+    if (options_.logEntries == 0) {
+        writeLog(at, 2, &s, QStringLiteral("Information"), QStringLiteral("Auftrag gestartet"),
+                 QString());
+        writeLog(at.addSecs(5), 2, &s,
+                 failed ? QStringLiteral("Fehler") : QStringLiteral("Information"),
+                 failed ? QStringLiteral("Auftrag mit Fehlern beendet")
+                        : QStringLiteral("Auftrag beendet"),
+                 inDirectory(s.errorMta, logFileName(s, at)));
+        if (failed) {
+            writeLog(at.addSecs(5), 3, &s, QStringLiteral("Fehler"),
+                     QStringLiteral("Auftrag '%1' fehlerhaft beendet").arg(s.jobName), QString());
+        }
+    }
+}
+
+AgentCounts JobAgentSimulator::fillYears() {
+    prepare();
+    // A bulk fill is repeated when it breaks off; it need not wait for the disk.
+    sqlite3_exec(db_, "PRAGMA synchronous=OFF", nullptr, nullptr, nullptr);
+    sqlite3_exec(db_, "PRAGMA cache_size=-65536", nullptr, nullptr, nullptr);
+    counts_ = {};
+    const qint64 end = secondsOf(database_->clock().now());
+    const qint64 start = secondsOf(database_->clock().now().addYears(-std::max(1, options_.years)));
+    const qint64 span = end - start;
+
+    // Each schedule's next run; the earliest goes first, so ids follow the time as the
+    // service's would.
+    struct Next {
+        qint64 at;
+        qsizetype schedule;
+        qint64 left;  // runs still to write, -1 until the period ends
+        qint64 step;  // seconds to the next run; 0 spreads `count` runs evenly over the period
+        qint64 index = 0;
+        qint64 count = 0;
+        qint64 offset = 0;
+    };
+    // Run k of n evenly over the period, in the middle of its share of it.
+    auto spread = [start, span](qint64 k, qint64 n, qint64 offset) {
+        return start + span * (2 * k + 1) / (2 * n) + offset;
+    };
+    auto later = [](const Next& a, const Next& b) { return a.at > b.at; };
+    std::priority_queue<Next, std::vector<Next>, decltype(later)> queue(later);
+    QMap<long, int> schedulesOfJob;
+    for (const Schedule& s : schedules_) {
+        ++schedulesOfJob[s.idJob];
+    }
+    QMap<long, int> seen;
+    for (qsizetype i = 0; i < schedules_.size(); ++i) {
+        const Schedule& s = schedules_[i];
+        if (options_.runsPerJob > 0) {
+            const int n = schedulesOfJob[s.idJob];
+            const int k = seen[s.idJob]++;
+            const qint64 count = options_.runsPerJob / n + (k == 0 ? options_.runsPerJob % n : 0);
+            if (count > 0) {
+                queue.push(Next{spread(0, count, k), i, count, 0, 0, count, k});
+            }
+        } else if (s.intervalSecs == 0) {
+            queue.push(Next{start + static_cast<qint64>(rng_() % span), i, 1, 1});
+        } else {
+            queue.push(
+                Next{start + static_cast<qint64>(rng_() % s.intervalSecs), i, -1, s.intervalSecs});
+        }
+    }
+
+    qint64 inBatch = 0;
+    qint64 lastServiceDay = -1;
+    begin();
+    while (!queue.empty()) {
+        Next n = queue.top();
+        queue.pop();
+        if (n.at > end) {
+            continue;
+        }
+        if (options_.logEntries == 0 && n.at / 86400 != lastServiceDay) {
+            lastServiceDay = n.at / 86400;
+            writeServiceEntry(fromSeconds(lastServiceDay * 86400 + 3600));
+        }
+        writeRun(schedules_[n.schedule], fromSeconds(n.at));
+        if (++inBatch >= options_.batch) {
+            commit();
+            begin();
+            inBatch = 0;
+        }
+        if (n.left != 1) {
+            n.left = n.left > 0 ? n.left - 1 : n.left;
+            n.at = n.step > 0 ? n.at + n.step : spread(++n.index, n.count, n.offset);
+            queue.push(n);
+        }
+    }
+
+    // A given number of entries: spread evenly over the period, most of them of the jobs.
+    for (qint64 k = 0; k < options_.logEntries; ++k) {
+        const QDateTime at = fromSeconds(start + span * k / options_.logEntries);
+        const unsigned kind = rng_() % 20;
+        if (kind < 14 && !schedules_.isEmpty()) {
+            const Schedule& s = schedules_[static_cast<qsizetype>(k % schedules_.size())];
+            runAt_ = at;
+            writeLog(at, 2, &s, QStringLiteral("Information"), QStringLiteral("Auftrag beendet"),
+                     inDirectory(s.errorMta, logFileName(s, at)));
+        } else if (kind < 19) {
+            writeServiceEntry(at);
+        } else {
+            writeLog(at, 3, nullptr, QStringLiteral("Fehler"),
+                     QStringLiteral("Verbindung zur Datenbank unterbrochen"), QString());
+        }
+        if (++inBatch >= options_.batch) {
+            commit();
+            begin();
+            inBatch = 0;
+        }
+    }
+    commit();
+    return counts_;
+}
+
+bool JobAgentSimulator::runOnce() {
+    if (schedules_.isEmpty()) {
+        return false;
+    }
+    prepare();
+    const AgentCounts before = counts_;
+    const Schedule& s = schedules_[next_++ % schedules_.size()];
+    const QDateTime now = database_->clock().now();
+    try {
+        begin();
+        if (next_ % 10 == 1) {
+            writeServiceEntry(now);
+        }
+        writeRun(s, now);
+        commit();
+    } catch (...) {
+        // Nothing of the run stays, and nothing of it is counted.
+        sqlite3_exec(db_, "ROLLBACK", nullptr, nullptr, nullptr);
+        sqlite3_reset(insertRun_);
+        sqlite3_reset(insertLog_);
+        counts_ = before;
+        throw;
+    }
+    return true;
+}

@@ -1,0 +1,82 @@
+#pragma once
+
+#include <QDateTime>
+#include <QList>
+#include <QString>
+#include <memory>
+#include <random>
+
+class Database;
+struct sqlite3;
+struct sqlite3_stmt;
+
+// Writes what the job agent service writes: runs of the schedules in tAutoJobVerlauf and log
+// entries of the service and of the jobs in SYS_JobAgentLogDaten. It reads jobs and schedules
+// and never writes to them.
+struct AgentOptions {
+    int years = 0;          // bulk: the period that ends now
+    qint64 runsPerJob = 0;  // bulk: runs of each job over the period; 0 as its schedules say
+    qint64 logEntries = 0;  // bulk: log entries over the period; 0 a few per run
+    long jobId = 0;         // only this job; 0 all jobs with a schedule
+    quint32 seed = 1;       // the same seed writes the same rows
+    qint64 batch = 200000;  // bulk: rows per transaction
+};
+
+struct AgentCounts {
+    qint64 runs = 0;
+    qint64 logEntries = 0;
+};
+
+class JobAgentSimulator {
+  public:
+    JobAgentSimulator(std::shared_ptr<Database> database, AgentOptions options);
+    ~JobAgentSimulator();
+
+    JobAgentSimulator(const JobAgentSimulator&) = delete;
+    JobAgentSimulator& operator=(const JobAgentSimulator&) = delete;
+
+    // Reads the jobs and their active schedules; gives their number. Throws RaisedError.
+    int loadSchedules();
+
+    // Fills the period of options.years up to now in large transactions.
+    AgentCounts fillYears();
+    // One run of the next schedule at the moment now, with its log entries, in one short
+    // transaction. Gives false when there is no schedule to run.
+    bool runOnce();
+
+    const AgentCounts& counts() const { return counts_; }
+
+  private:
+    struct Schedule {
+        long idSchedule = 0;
+        long idJob = 0;
+        int datenArt = 0;
+        QString jobName;
+        QString mtaPath;
+        QString backupPath;
+        QString errorMta;
+        long mandant = 0;
+        qint64 intervalSecs = 86400;
+    };
+
+    void prepare();
+    void begin();
+    void commit();
+    void writeRun(const Schedule& s, const QDateTime& at);
+    void writeLog(const QDateTime& at, int logTyp, const Schedule* s, const QString& kategorie,
+                  const QString& text, const QString& zusatz);
+    void writeServiceEntry(const QDateTime& at);
+    int resultCode(int datenArt);
+    QString logFileName(const Schedule& s, const QDateTime& at) const;
+
+    std::shared_ptr<Database> database_;
+    AgentOptions options_;
+    sqlite3* db_ = nullptr;
+    sqlite3_stmt* insertRun_ = nullptr;
+    sqlite3_stmt* insertLog_ = nullptr;
+    QList<Schedule> schedules_;
+    qsizetype next_ = 0;
+    QDateTime runAt_;  // the run the job entries being written belong to
+    std::mt19937 rng_;
+    AgentCounts counts_;
+};
