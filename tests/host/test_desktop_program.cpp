@@ -1,6 +1,7 @@
 // The program users start, driven through its widgets as a person does.
 #include <QAction>
 #include <QFile>
+#include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
 #include <QTest>
@@ -179,6 +180,33 @@ TEST_F(DesktopProgramTest, HostMenusAgreeWithTheListsToolsAndReachTheirCommands)
     ASSERT_TRUE(waitFor([&] { return !caption.isEmpty(); }));
     EXPECT_EQ(caption, kLindner + QStringLiteral(" - Bearbeiten "));
     agree("after the editor");
+
+    // The view menu reaches the run history of the selected job and the service's log data;
+    // each window ends by its close box.
+    QString history;
+    QString jobName;
+    whenShown(QStringLiteral("frmVerlauf"), [&](QWidget* w) {
+        history = w->windowTitle();
+        if (auto* name = qobject_cast<QLabel*>(find(w, QStringLiteral("lblLabel(0)")))) {
+            jobName = name->text();
+        }
+        w->close();
+    });
+    chooseMenu(QStringLiteral("Ansicht"), QStringLiteral("Auftragsverlauf"));
+    ASSERT_TRUE(waitFor([&] { return !history.isEmpty(); }));
+    EXPECT_EQ(history, QStringLiteral("Auftragsverlauf"));
+    EXPECT_EQ(jobName, QStringLiteral("Auftragsname: ") + kLindner);
+
+    QString logData;
+    whenShown(QStringLiteral("frmLogDaten"), [&](QWidget* w) {
+        logData = w->windowTitle();
+        w->close();
+    });
+    chooseMenu(QStringLiteral("Ansicht"), QStringLiteral("Logdaten Dienst"));
+    ASSERT_TRUE(waitFor([&] { return !logData.isEmpty(); }));
+    EXPECT_EQ(logData, QStringLiteral("Suite  Logdaten Dienst"));
+    EXPECT_TRUE(waitFor([] { return shownWindow(QStringLiteral("frmLogDaten")) == nullptr; }));
+    agree("after the history and the log data");
     EXPECT_EQ(boxes_->shown(), QStringList());
 }
 
