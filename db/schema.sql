@@ -299,7 +299,14 @@ SELECT
         ELSE ''
     END                                             AS [Mandant/Kanzlei],
     CASE WHEN j.Aktiviert = 1 THEN 'Ja' ELSE 'Nein' END AS Aktiviert,
-    lv.LetzteAusfuehrung                            AS LetzteAusfuehrung,
+    -- The latest run: per schedule of the job the newest on the index of schedule and time,
+    -- so that a job with millions of runs costs no more than one without. A value in the
+    -- select list, not a join: counting the list and skipping rows never computes it.
+    (SELECT max((SELECT max(z.LetzteAusfuehrung)
+                   FROM tAutoJobVerlauf z
+                  WHERE z.idAutoJobSchedule = s.idAutoJobSchedule))
+       FROM tAutoJobSchedule s
+      WHERE s.idAutoJob = j.idAutoJob)              AS LetzteAusfuehrung,
     j.LetzteAenderung                               AS LetzteAenderung,
     COALESCE(ma.Name, '')                           AS Mitarbeiter,
     j.Erstellt                                      AS Erstellt,
@@ -308,22 +315,7 @@ FROM tAutoJobJob j
 LEFT JOIN tMandant m
        ON m.ManId = j.Ps_Id_Mandant
 LEFT JOIN tMitarbeiter ma
-       ON ma.MitId = j.Ps_Id_Mitarbeiter
--- The latest run is looked up per schedule on the index of schedule and time, so
--- that a job with millions of runs costs no more than one without.
-LEFT JOIN tAutoJobVerlauf lv
-       ON lv.idAutoJobVerlauf = (
-              SELECT v.idAutoJobVerlauf
-                FROM tAutoJobSchedule s
-                JOIN tAutoJobVerlauf v
-                  ON v.idAutoJobSchedule = s.idAutoJobSchedule
-                 AND v.LetzteAusfuehrung = (
-                         SELECT max(z.LetzteAusfuehrung)
-                           FROM tAutoJobVerlauf z
-                          WHERE z.idAutoJobSchedule = s.idAutoJobSchedule)
-               WHERE s.idAutoJob = j.idAutoJob
-               ORDER BY v.LetzteAusfuehrung DESC, v.idAutoJobVerlauf DESC
-               LIMIT 1);
+       ON ma.MitId = j.Ps_Id_Mitarbeiter;
 
 -- Log data browser.
 --   Typ          LogTyp: 1 and 3 service, 2 job

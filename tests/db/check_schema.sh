@@ -499,8 +499,9 @@ if command -v python3 >/dev/null 2>&1 && python3 -c 'import sqlite3' >/dev/null 
     out="$(python3 - "$DB" <<'EOF'
 import sqlite3, sys
 con = sqlite3.connect(sys.argv[1])
-for view, col in [("V_ZPK_Applications_System_AutoJob", "LetzteAusfuehrung"),
-                  ("V_ZPK_Applications_System_AutoJob", "LetzteAenderung"),
+# LetzteAusfuehrung of the job list is computed per row (the newest run of the job's
+# schedules), so it carries no declared type; it reads as the date text it is.
+for view, col in [("V_ZPK_Applications_System_AutoJob", "LetzteAenderung"),
                   ("V_ZPK_Applications_System_AutoJob", "Erstellt"),
                   ("SYS_JobAgentLogDaten_Anzeigen", "[Datum/Uhrzeit]")]:
     seen = []

@@ -137,11 +137,19 @@ TEST_F(QueryPlans, TheJobListSeeksEachJobsLatestRunInsteadOfSortingItsRuns) {
     for (const QString sql : {"SELECT * FROM V_ZPK_Applications_System_AutoJob",
                               "SELECT * FROM V_ZPK_Applications_System_AutoJob WHERE PSId = 3"}) {
         expectNoFullScan(sql);
-        // Only the latest run of each schedule is sorted, not all runs of the job.
-        EXPECT_TRUE(
-            plan(sql).join(u'\n').contains(u"(idAutoJobSchedule=? AND LetzteAusfuehrung=?)"))
-            << plan(sql).join(u'\n').toStdString();
+        // Per schedule one seek for its newest run; no run is sorted.
+        const QString p = plan(sql).join(u'\n');
+        EXPECT_TRUE(p.contains(u"ixAutoJobVerlauf_ScheduleZeit (idAutoJobSchedule=?)"))
+            << p.toStdString();
+        EXPECT_FALSE(p.contains(u"TEMP B-TREE")) << p.toStdString();
     }
+}
+
+TEST_F(QueryPlans, CountingTheJobListTouchesNoRun) {
+    const QString p =
+        plan(QStringLiteral("SELECT count(*) FROM V_ZPK_Applications_System_AutoJob")).join(u'\n');
+    EXPECT_FALSE(p.contains(u"ixAutoJobVerlauf")) << p.toStdString();
+    EXPECT_FALSE(p.contains(u"tAutoJobSchedule")) << p.toStdString();
 }
 
 }  // namespace
