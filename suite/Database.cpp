@@ -12,6 +12,7 @@
 #include <QSqlQuery>
 #include <atomic>
 
+#include "suite/SchemaUpgrade.h"
 #include "suite/SqlErrors.h"
 #include "suite/SqlFunctions.h"
 #include "suite/SqliteRecordset.h"
@@ -139,6 +140,18 @@ bool Database::isEmpty() const {
 
 void Database::applySchema() {
     runScript(resourceText(QStringLiteral(":/db/schema.sql")));
+}
+
+void Database::upgradeSchema() {
+    sqlite3* db = sqliteHandle(connectionOf(connectionName_));
+    if (db == nullptr) {
+        throw SqlErrors::noConnection();
+    }
+    const QStringList statements =
+        schemaUpgrade(db, resourceText(QStringLiteral(":/db/schema.sql")));
+    if (!statements.isEmpty()) {
+        runScript(statements.join(QStringLiteral(";\n")) + u';');
+    }
 }
 
 QStringList Database::applyDemoData(const QString& folder) {

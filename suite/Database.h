@@ -27,6 +27,9 @@ class Database : public std::enable_shared_from_this<Database> {
     bool isEmpty() const;
     // Runs the embedded db/schema.sql, then (applyDemoData) db/demo.sql. Throws on failure.
     void applySchema();
+    // A database of an earlier version gets what this schema has more: missing tables,
+    // indexes and views, and views that read otherwise. Its rows stay as they are.
+    void upgradeSchema();
     // The demo's jobs keep their directories below folder (their "/srv/zpk" in the script),
     // which are created with it; gives the directories.
     QStringList applyDemoData(const QString& folder = QStringLiteral("/srv/zpk"));

@@ -39,7 +39,9 @@ std::shared_ptr<Database> openSuiteDatabase(const SuiteConfig& config,
         QDir().mkpath(QFileInfo(config.databasePath).absolutePath());
     }
     auto db = Database::open(config.databasePath, std::move(clock));
-    if (db->isEmpty()) {
+    if (!db->isEmpty()) {
+        db->upgradeSchema();
+    } else {
         db->applySchema();
         // The demo's jobs work in folders below the data root, made ready for them.
         const QString dataRoot = config.paths.value(83);

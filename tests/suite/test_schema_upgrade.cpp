@@ -1,0 +1,78 @@
+// A database made by an earlier version opens with what this schema has more, its rows kept.
+#include <gtest/gtest.h>
+#include <sqlite3.h>
+
+#include <QTemporaryDir>
+
+#include "common/Clock.h"
+#include "suite/Database.h"
+#include "suite/SchemaUpgrade.h"
+#include "suite/SuiteConfig.h"
+#include "suite/SuiteServices.h"
+
+namespace {
+
+QString scalar(const QString& path, const char* sql) {
+    sqlite3* db = nullptr;
+    sqlite3_open_v2(path.toUtf8().constData(), &db, SQLITE_OPEN_READONLY, nullptr);
+    sqlite3_stmt* st = nullptr;
+    QString value = QStringLiteral("<none>");
+    if (sqlite3_prepare_v2(db, sql, -1, &st, nullptr) == SQLITE_OK &&
+        sqlite3_step(st) == SQLITE_ROW) {
+        const auto* text = sqlite3_column_text(st, 0);
+        value = text ? QString::fromUtf8(reinterpret_cast<const char*>(text)) : QString();
+    }
+    sqlite3_finalize(st);
+    sqlite3_close(db);
+    return value;
+}
+
+}  // namespace
+
+TEST(SchemaUpgrade, AnOlderDatabaseGetsTheMissingTablesAndTheNewViewsAndKeepsItsRows) {
+    QTemporaryDir dir;
+    SuiteConfig config;
+    config.databasePath = dir.filePath(QStringLiteral("alt.sqlite"));
+    config.paths.insert(83, dir.filePath(QStringLiteral("data")));
+    {
+        auto db = Database::open(config.databasePath, std::make_shared<SystemClock>());
+        db->applySchema();
+        db->runScript(QStringLiteral(
+            "DROP TABLE tBrowserEinstellungen;"
+            "DROP VIEW V_ZPK_Applications_System_AutoJob;"
+            "CREATE VIEW V_ZPK_Applications_System_AutoJob AS SELECT idAutoJob AS JobId "
+            "FROM tAutoJobJob;"
+            "INSERT INTO tAutoJobJob (Name, DatenArt, MandKanz) VALUES ('Alt', 17, 3);"));
+    }
+    const QString wantedView = [] {
+        for (const SchemaObject& o : schemaObjects(
+                 QStringLiteral("CREATE TABLE t (a); CREATE VIEW v AS SELECT a FROM t;"))) {
+            if (o.type == QLatin1String("view")) {
+                return o.sql;
+            }
+        }
+        return QString();
+    }();
+    EXPECT_EQ(wantedView, QStringLiteral("CREATE VIEW v AS SELECT a FROM t"));
+
+    {
+        auto db = openSuiteDatabase(config, std::make_shared<SystemClock>());
+        EXPECT_FALSE(db->isEmpty());
+    }
+    const QString path = config.databasePath;
+    EXPECT_EQ(
+        scalar(path, "SELECT count(*) FROM sqlite_master WHERE name = 'tBrowserEinstellungen'"),
+        QStringLiteral("1"));
+    EXPECT_EQ(scalar(path, "SELECT Name FROM tAutoJobJob"), QStringLiteral("Alt"));
+    EXPECT_EQ(scalar(path, "SELECT count(*) FROM tAutoJobJob"), QStringLiteral("1"));
+    EXPECT_EQ(scalar(path, "SELECT Auftragsart FROM V_ZPK_Applications_System_AutoJob"),
+              QStringLiteral("Import Kunden"));
+
+    // Once up to date, nothing is left to do.
+    sqlite3* db = nullptr;
+    sqlite3_open(path.toUtf8().constData(), &db);
+    QFile schema(QStringLiteral(":/db/schema.sql"));
+    ASSERT_TRUE(schema.open(QIODevice::ReadOnly));
+    EXPECT_EQ(schemaUpgrade(db, QString::fromUtf8(schema.readAll())), QStringList());
+    sqlite3_close(db);
+}
