@@ -94,7 +94,8 @@ Database::~Database() {
     }
 }
 
-std::shared_ptr<Database> Database::open(const QString& path, std::shared_ptr<IClock> clock) {
+std::shared_ptr<Database> Database::open(const QString& path, std::shared_ptr<IClock> clock,
+                                         int busyTimeoutMs) {
     if (!clock) {
         clock = std::make_shared<SystemClock>();
     }
@@ -107,7 +108,7 @@ std::shared_ptr<Database> Database::open(const QString& path, std::shared_ptr<IC
                                 QStringLiteral("Der Datenbanktreiber QSQLITE fehlt."));
     }
     db.setDatabaseName(path);
-    db.setConnectOptions(QStringLiteral("QSQLITE_BUSY_TIMEOUT=5000"));
+    db.setConnectOptions(QStringLiteral("QSQLITE_BUSY_TIMEOUT=%1").arg(busyTimeoutMs));
     if (!db.open()) {
         throw SqlErrors::fromDriver(db.lastError(), path);
     }
@@ -115,6 +116,11 @@ std::shared_ptr<Database> Database::open(const QString& path, std::shared_ptr<IC
     if (handle == nullptr) {
         throw SqlErrors::raised(ErrNumber::Database,
                                 QStringLiteral("Die Verbindung gibt keinen SQLite-Zugriff."));
+    }
+    if (sqlite3_db_readonly(handle, "main") == 1) {
+        // Opened without write access: every save would fail later, after the user typed.
+        throw SqlErrors::raised(SQLITE_READONLY,
+                                QStringLiteral("attempt to write a readonly database"));
     }
     if (!path.isEmpty() && path != u":memory:") {
         // The agent service writes while the window reads.

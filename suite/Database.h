@@ -12,8 +12,12 @@
 class Database : public std::enable_shared_from_this<Database> {
   public:
     // Opens the file, creating it when missing; ":memory:" gives a private in-memory
-    // database. getdate() answers from the clock. Throws RaisedError on failure.
-    static std::shared_ptr<Database> open(const QString& path, std::shared_ptr<IClock> clock);
+    // database. getdate() answers from the clock. A statement that finds the file locked by
+    // another writer waits up to busyTimeoutMs before it fails. Throws RaisedError on failure,
+    // also when the file can only be read.
+    static constexpr int kDefaultBusyTimeoutMs = 5000;
+    static std::shared_ptr<Database> open(const QString& path, std::shared_ptr<IClock> clock,
+                                          int busyTimeoutMs = kDefaultBusyTimeoutMs);
     ~Database();
 
     Database(const Database&) = delete;
