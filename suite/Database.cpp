@@ -1,5 +1,6 @@
 #include "suite/Database.h"
 
+#include <QDir>
 #include <QFileInfo>
 #include <QRegularExpression>
 
@@ -11,6 +12,8 @@
 #include <QSqlError>
 #include <QSqlQuery>
 #include <atomic>
+
+#include <sys/stat.h>
 
 #include "suite/SqlErrors.h"
 #include "suite/SqlFunctions.h"
@@ -127,6 +130,11 @@ std::shared_ptr<Database> Database::open(const QString& path, std::shared_ptr<IC
         execute(handle, "PRAGMA journal_mode=WAL");
         execute(handle, "PRAGMA synchronous=NORMAL");
     }
+    struct stat info {};
+    if (!path.isEmpty() && path != u":memory:" && ::stat(QFile::encodeName(path), &info) == 0) {
+        database->device_ = info.st_dev;
+        database->inode_ = info.st_ino;
+    }
     if (registerServerFunctions(handle, database->clock_.get()) != SQLITE_OK) {
         throw sqliteFailure(handle, QStringLiteral("getdate, datediff, len"));
     }
@@ -189,6 +197,22 @@ void Database::runScript(const QString& script) {
     }
     if (ownTransaction) {
         execute(db, "COMMIT");
+    }
+}
+
+void Database::checkStillThere() const {
+    if (inode_ == 0) {
+        return;
+    }
+    struct stat info {};
+    if (::stat(QFile::encodeName(path_), &info) != 0 || info.st_dev != device_ ||
+        info.st_ino != inode_) {
+        throw SqlErrors::raised(
+            ErrNumber::Database,
+            QStringLiteral("Die Datenbank %1 ist nicht mehr vorhanden: sie wurde gelöscht oder "
+                           "verschoben. Änderungen können nicht gespeichert werden; bitte "
+                           "beenden Sie das Programm und öffnen Sie die Datenbank neu.")
+                .arg(QDir::toNativeSeparators(QFileInfo(path_).absoluteFilePath())));
     }
 }
 

@@ -39,10 +39,17 @@ class Database : public std::enable_shared_from_this<Database> {
 
     Services::Factory<CRecordset> recordsetFactory();
 
+    // Throws when the file the database was opened from has since been deleted or moved:
+    // the connection would go on writing into a file nobody reads again.
+    void checkStillThere() const;
+
   private:
     Database(QString path, QString connectionName, std::shared_ptr<IClock> clock);
 
     QString path_;
     QString connectionName_;
     std::shared_ptr<IClock> clock_;
+    // Device and inode of the opened file; both 0 for a database without a file.
+    quint64 device_ = 0;
+    quint64 inode_ = 0;
 };
