@@ -294,7 +294,8 @@ class cAdminJob {
     void mInitCBODaten(std::uint8_t bytDatenArt);
     void mInitCBO_MandKanz(std::uint8_t bytKey);
     void mEigenschaftenGeaendert();
-    void mEigenschaftenSpeichern(bool bUebernehmen);
+    // False when the job could not be written; the window then keeps what the user typed.
+    bool mEigenschaftenSpeichern(bool bUebernehmen);
     // The schedule of the current row of the schedule grid, when a schedule row is current.
     void mZeitplanDerZeileBearbeiten();
 
@@ -372,7 +373,8 @@ class cAdminJob {
 
     // Writes the schedule to the row lZeitplanId of the job lJobId; an id without a row (0,
     // -1) adds a new row.
-    void mZeitplanSpeichern(long& lZeitplanId, long& lJobId, cSchedule& oSchedule);
+    // False when the row could not be written (the failure is reported).
+    bool mZeitplanSpeichern(long& lZeitplanId, long& lJobId, cSchedule& oSchedule);
     // Asks, then deletes the schedule mlZeitplanId.
     void mZeitplanLoeschen();
     void moGridZeitplan_KeyDown(int iKeyCode);
@@ -426,7 +428,8 @@ class cAdminJob {
     QString msCheckValuesFRMZeitplan();
     // A time box's text "hh:mm:ss" with "_" in empty places; loose by intent: 29:30 passes.
     bool mbCheckValidTime(QString& sZeit);
-    void mZeitplanEigenschaftenUebernehmen();
+    // False when the schedule could not be written; the dialog then stays open.
+    bool mZeitplanEigenschaftenUebernehmen();
     // The help topic of the schedules.
     void mHilfeAbruf();
     // The rows of the editor's schedule grid, header row included; 1 without a grid.

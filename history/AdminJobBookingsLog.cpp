@@ -1,6 +1,7 @@
 // A bookings import's log: the question whether to show its status or its bookings, and the
 // suite's viewer that shows it.
 #include <QFile>
+#include <QFileInfo>
 
 #include "app/LibraryObjects.h"
 #include "app/Required.h"
@@ -70,7 +71,9 @@ bool cAdminJob::mbBuchProt(const QString& sDatei) {
         bool bBuchungen = false;
         {
             QFile datei(sDatei);
-            if (!datei.open(QIODevice::ReadOnly)) {
+            // Only a plain file: a pipe of that name would block the opening, a link to
+            // itself cannot be opened at all.
+            if (!QFileInfo(sDatei).isFile() || !datei.open(QIODevice::ReadOnly)) {
                 throw RaisedError(kDateiNichtGefunden, QStringLiteral("Datei nicht gefunden"));
             }
             bBuchungen = bookingsLogHasBookings(datei);

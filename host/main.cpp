@@ -6,6 +6,8 @@
 #include <QTextStream>
 
 #include "common/ErrorExit.h"
+#include "gui/QtUi.h"
+#include "host/DatabaseOpenFailure.h"
 #include "host/DemoSummary.h"
 #include "host/DesktopProgram.h"
 #include "host/HostMainWindow.h"
@@ -124,8 +126,17 @@ int main(int argc, char* argv[]) {
     try {
         program = std::make_unique<DesktopProgram>(config);
     } catch (const RaisedError& e) {
-        QTextStream(stderr) << "Die Datenbank " << config->databasePath
-                            << " kann nicht geöffnet werden: " << e.err().Description << "\n";
+        // A desktop user never sees the console: the window-less modes keep writing there,
+        // the window says it in a message box.
+        const QString text = databaseOpenFailureText(config->databasePath, e.err());
+        if (options.summary || !options.shot.isEmpty()) {
+            QTextStream(stderr) << QString(text).replace(QStringLiteral("\r\n"),
+                                                         QStringLiteral("\n"))
+                                << "\n";
+        } else {
+            QtUi ui;
+            showDatabaseOpenFailure(ui, text);
+        }
         return 1;
     }
 

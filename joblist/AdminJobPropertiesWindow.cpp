@@ -64,10 +64,9 @@ void cAdminJob::mShowFRMPakete(long lJobId, const QString& sName) {
                 return;
             }
             if (lAntwort == MsgAnswer::Yes) {
-                if (!mbCheckEigenschaften()) {
+                if (!mbCheckEigenschaften() || !mEigenschaftenSpeichern(true)) {
                     return;
                 }
-                mEigenschaftenSpeichern(true);
             }
         } else {
             auto oWindow = ex.create<IWindow>(
@@ -206,10 +205,10 @@ void cAdminJob::mEigenschaftenSchliessen(bool bAbbrechen) {
             return;
         }
         if (!bAbbrechen) {
-            if (!mbCheckEigenschaften()) {
+            // A job that could not be written keeps its window open with the input.
+            if (!mbCheckEigenschaften() || !mEigenschaftenSpeichern(false)) {
                 return;
             }
-            mEigenschaftenSpeichern(false);
         }
         // Cut first: unloading raises Cancel once more, which must not come back here.
         mEigenschaftenTrennen();

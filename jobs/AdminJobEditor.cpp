@@ -240,11 +240,11 @@ void cAdminJob::mEigenschaftenGeaendert() {
     }
 }
 
-void cAdminJob::mEigenschaftenSpeichern(bool bUebernehmen) {
+bool cAdminJob::mEigenschaftenSpeichern(bool bUebernehmen) {
     ErrorExit ex(QStringLiteral("mEigenschaftenSpeichern"), kKlasse);
     try {
         if (!mofrmEigenschaften) {
-            return;
+            return false;
         }
         frmEigenschaften& form = *mofrmEigenschaften;
         JobRecord rec;
@@ -295,6 +295,13 @@ void cAdminJob::mEigenschaftenSpeichern(bool bUebernehmen) {
         rec.lMandant = form.ctlMandant().Id();
 
         mAuftragSpeichern(rec);
+        // The caption of the last change comes back only from a complete write. After a
+        // failure (reported once, e.g. the database locked by another writer) the window is
+        // not filled again from the table, so that the input stays and "Übernehmen" stays
+        // enabled for the next try.
+        if (rec.sLetzteAenderung.isEmpty()) {
+            return false;
+        }
         mlJobId = rec.lJobId;
         form.lblLetzteAenderung().setCaption(rec.sLetzteAenderung);
         form.lblLabel(2).setCaption(rec.sErstellt);
@@ -312,7 +319,9 @@ void cAdminJob::mEigenschaftenSpeichern(bool bUebernehmen) {
             }
             mAktuFrmPakete(mlJobId);
         }
+        return true;
     } catch (...) {
         ex.fail();
     }
+    return false;
 }

@@ -134,7 +134,11 @@ bool cLogDaten::mbLogDatenLoeschen() {
 
         if (mlMsgBox(sFrage, kStilFrage, sTitel) == MsgAnswer::Yes) {
             long lJobId = mlLoeschJobId;
-            mLogDatenDelete(lJobArt, lJobId, mlLoeschArt, dtVon, dtBis, true);
+            // A statement that failed (e.g. the database locked by another writer) has been
+            // reported; the window stays with its entries for another try.
+            if (!mLogDatenDelete(lJobArt, lJobId, mlLoeschArt, dtVon, dtBis, true)) {
+                return false;
+            }
         }
         return true;
     } catch (...) {
@@ -143,7 +147,7 @@ bool cLogDaten::mbLogDatenLoeschen() {
     return false;
 }
 
-void cLogDaten::mLogDatenDelete(long lJobArt, long lJobId, long lLogArt, const QDateTime& dtVon,
+bool cLogDaten::mLogDatenDelete(long lJobArt, long lJobId, long lLogArt, const QDateTime& dtVon,
                                 const QDateTime& dtBis, bool bMeldung) {
     ErrorExit ex(QStringLiteral("mLogDatenDelete"), kKlasse);
     try {
@@ -187,7 +191,9 @@ void cLogDaten::mLogDatenDelete(long lJobArt, long lJobId, long lLogArt, const Q
                 moFrmLogDatenDel ? moFrmLogDatenDel->window().Caption() : QString();
             mlMsgBox(logdaten::msLoeschErgebnis(lAnzahl), MsgStyle::Information, sTitel);
         }
+        return true;
     } catch (...) {
         ex.fail();
     }
+    return false;
 }

@@ -65,7 +65,8 @@ class cLogDaten {
     // False keeps the window open.
     bool mbLogDatenLoeschen();
     // A null date sets no bound on its side.
-    void mLogDatenDelete(long lJobArt, long lJobId, long lLogArt, const QDateTime& dtVon,
+    // False when the statement failed (reported); the deletion window then stays open.
+    bool mLogDatenDelete(long lJobArt, long lJobId, long lLogArt, const QDateTime& dtVon,
                          const QDateTime& dtBis, bool bMeldung);
 
     // ---- Details (logdata/LogDatenDetails.cpp) -------------------------------------------

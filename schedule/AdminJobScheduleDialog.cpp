@@ -199,7 +199,9 @@ void cAdminJob::mofrmZeitplanEigenschaften_evFrmZeitplanCommandButtonClicked(int
                                   mlMsgBox(sMeldung, MsgStyle::Information);
                                   break;
                               }
-                              mZeitplanEigenschaftenUebernehmen();
+                              if (!mZeitplanEigenschaftenUebernehmen()) {
+                                  break;
+                              }
                               fensterSchliessen(mofrmZeitplanEigenschaften);
                               mInitGridZeitplan();
                               mFuelleGridZeitplan();

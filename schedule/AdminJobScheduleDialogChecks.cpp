@@ -79,9 +79,9 @@ bool cAdminJob::mbCheckValidTime(QString& sZeit) {
     });
 }
 
-void cAdminJob::mZeitplanEigenschaftenUebernehmen() {
-    withErrorExit(
-        QStringLiteral("mZeitplanEigenschaftenUebernehmen"), kKlasse, 0, [this](ErrorExit&) {
+bool cAdminJob::mZeitplanEigenschaftenUebernehmen() {
+    return withErrorExit(
+        QStringLiteral("mZeitplanEigenschaftenUebernehmen"), kKlasse, false, [this](ErrorExit&) {
             frmZeitplan& frm = required(mofrmZeitplanEigenschaften);
             cSchedule& o = required(moSchedule);
             o.psName = frm.txtTextBox(0).Text();
@@ -98,13 +98,17 @@ void cAdminJob::mZeitplanEigenschaftenUebernehmen() {
                     o.pvActiveStartTimeOfDay = sZiffern + QStringLiteral("00");
                 }
             }
-            mZeitplanSpeichern(mlZeitplanId, mlJobId, o);
+            // A row that could not be written (e.g. the database locked by another writer)
+            // keeps the schedule and its dialog, so that OK can be pressed again.
+            if (!mZeitplanSpeichern(mlZeitplanId, mlJobId, o)) {
+                return false;
+            }
             moSchedule.reset();
             mUpdateLetztAenderung();
             if (mofrmEigenschaften) {
                 mofrmEigenschaften->lblLetzteAenderung().setCaption(
                     msGetLetzteAenderungText(clockNow(), 0));
             }
-            return 0;
+            return true;
         });
 }

@@ -32,7 +32,7 @@ long tagesZahl(const QDateTime& dtDatum) {
 
 }  // namespace
 
-void cAdminJob::mZeitplanSpeichern(long& lZeitplanId, long& lJobId, cSchedule& oSchedule) {
+bool cAdminJob::mZeitplanSpeichern(long& lZeitplanId, long& lJobId, cSchedule& oSchedule) {
     ErrorExit ex(QStringLiteral("mZeitplanSpeichern"), kKlasse);
     try {
         auto oTL = neuesRecordset(ex);
@@ -67,9 +67,11 @@ void cAdminJob::mZeitplanSpeichern(long& lZeitplanId, long& lJobId, cSchedule& o
         oTL->Update(CRecordset::UpdateWrite, true);
         oTL->Close();
         oTL->Disconnect();
+        return true;
     } catch (...) {
         ex.fail();
     }
+    return false;
 }
 
 void cAdminJob::mZeitplanEinfuegen(long lJobIdNeu) {

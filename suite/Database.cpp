@@ -1,5 +1,6 @@
 #include "suite/Database.h"
 
+#include <QDir>
 #include <QFileInfo>
 #include <QRegularExpression>
 
@@ -11,6 +12,8 @@
 #include <QSqlError>
 #include <QSqlQuery>
 #include <atomic>
+
+#include <sys/stat.h>
 
 #include "suite/SchemaUpgrade.h"
 #include "suite/SqlErrors.h"
@@ -95,7 +98,8 @@ Database::~Database() {
     }
 }
 
-std::shared_ptr<Database> Database::open(const QString& path, std::shared_ptr<IClock> clock) {
+std::shared_ptr<Database> Database::open(const QString& path, std::shared_ptr<IClock> clock,
+                                         int busyTimeoutMs) {
     if (!clock) {
         clock = std::make_shared<SystemClock>();
     }
@@ -108,7 +112,7 @@ std::shared_ptr<Database> Database::open(const QString& path, std::shared_ptr<IC
                                 QStringLiteral("Der Datenbanktreiber QSQLITE fehlt."));
     }
     db.setDatabaseName(path);
-    db.setConnectOptions(QStringLiteral("QSQLITE_BUSY_TIMEOUT=5000"));
+    db.setConnectOptions(QStringLiteral("QSQLITE_BUSY_TIMEOUT=%1").arg(busyTimeoutMs));
     if (!db.open()) {
         throw SqlErrors::fromDriver(db.lastError(), path);
     }
@@ -117,10 +121,20 @@ std::shared_ptr<Database> Database::open(const QString& path, std::shared_ptr<IC
         throw SqlErrors::raised(ErrNumber::Database,
                                 QStringLiteral("Die Verbindung gibt keinen SQLite-Zugriff."));
     }
+    if (sqlite3_db_readonly(handle, "main") == 1) {
+        // Opened without write access: every save would fail later, after the user typed.
+        throw SqlErrors::raised(SQLITE_READONLY,
+                                QStringLiteral("attempt to write a readonly database"));
+    }
     if (!path.isEmpty() && path != u":memory:") {
         // The agent service writes while the window reads.
         execute(handle, "PRAGMA journal_mode=WAL");
         execute(handle, "PRAGMA synchronous=NORMAL");
+    }
+    struct stat info {};
+    if (!path.isEmpty() && path != u":memory:" && ::stat(QFile::encodeName(path), &info) == 0) {
+        database->device_ = info.st_dev;
+        database->inode_ = info.st_ino;
     }
     if (registerServerFunctions(handle, database->clock_.get()) != SQLITE_OK) {
         throw sqliteFailure(handle, QStringLiteral("getdate, datediff, len"));
@@ -196,6 +210,22 @@ void Database::runScript(const QString& script) {
     }
     if (ownTransaction) {
         execute(db, "COMMIT");
+    }
+}
+
+void Database::checkStillThere() const {
+    if (inode_ == 0) {
+        return;
+    }
+    struct stat info {};
+    if (::stat(QFile::encodeName(path_), &info) != 0 || info.st_dev != device_ ||
+        info.st_ino != inode_) {
+        throw SqlErrors::raised(
+            ErrNumber::Database,
+            QStringLiteral("Die Datenbank %1 ist nicht mehr vorhanden: sie wurde gelöscht oder "
+                           "verschoben. Änderungen können nicht gespeichert werden; bitte "
+                           "beenden Sie das Programm und öffnen Sie die Datenbank neu.")
+                .arg(QDir::toNativeSeparators(QFileInfo(path_).absoluteFilePath())));
     }
 }
 

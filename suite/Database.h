@@ -12,8 +12,12 @@
 class Database : public std::enable_shared_from_this<Database> {
   public:
     // Opens the file, creating it when missing; ":memory:" gives a private in-memory
-    // database. getdate() answers from the clock. Throws RaisedError on failure.
-    static std::shared_ptr<Database> open(const QString& path, std::shared_ptr<IClock> clock);
+    // database. getdate() answers from the clock. A statement that finds the file locked by
+    // another writer waits up to busyTimeoutMs before it fails. Throws RaisedError on failure,
+    // also when the file can only be read.
+    static constexpr int kDefaultBusyTimeoutMs = 5000;
+    static std::shared_ptr<Database> open(const QString& path, std::shared_ptr<IClock> clock,
+                                          int busyTimeoutMs = kDefaultBusyTimeoutMs);
     ~Database();
 
     Database(const Database&) = delete;
@@ -38,10 +42,17 @@ class Database : public std::enable_shared_from_this<Database> {
 
     Services::Factory<CRecordset> recordsetFactory();
 
+    // Throws when the file the database was opened from has since been deleted or moved:
+    // the connection would go on writing into a file nobody reads again.
+    void checkStillThere() const;
+
   private:
     Database(QString path, QString connectionName, std::shared_ptr<IClock> clock);
 
     QString path_;
     QString connectionName_;
     std::shared_ptr<IClock> clock_;
+    // Device and inode of the opened file; both 0 for a database without a file.
+    quint64 device_ = 0;
+    quint64 inode_ = 0;
 };

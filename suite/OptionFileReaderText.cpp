@@ -9,6 +9,10 @@ namespace {
 
 constexpr long kDateiNichtGefunden = 53;
 constexpr long kFehlerhafteZeile = 62;
+constexpr long kZuGross = 7;
+// An import script names a few text files; anything larger is not one, and reading it whole
+// would only cost memory.
+constexpr qint64 kHoechstGroesse = 1024 * 1024;
 const QString kQuelle = QStringLiteral("OptionFileReader");
 
 bool isComment(const QString& line) {
@@ -21,6 +25,16 @@ QList<OptionFileEntry> TextOptionFileReader::Entries(const QString& optionFile) 
     if (!QFileInfo(optionFile).isFile()) {
         throw RaisedError(kDateiNichtGefunden,
                           QStringLiteral("Datei nicht gefunden: ") + optionFile, kQuelle);
+    }
+    const qint64 groesse = QFileInfo(optionFile).size();
+    if (groesse > kHoechstGroesse) {
+        throw RaisedError(kZuGross,
+                          QStringLiteral("Das Importskript %1 ist mit %2 Bytes zu groß; ein "
+                                         "Importskript hat höchstens %3 Bytes.")
+                              .arg(optionFile)
+                              .arg(groesse)
+                              .arg(kHoechstGroesse),
+                          kQuelle);
     }
     QFile file(optionFile);
     if (!file.open(QIODevice::ReadOnly)) {

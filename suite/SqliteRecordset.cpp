@@ -104,6 +104,7 @@ QString SqliteRecordset::translated(const QString& sql) const {
 
 void SqliteRecordset::Connect() {
     connection();
+    database_.lock()->checkStillThere();
 }
 
 void SqliteRecordset::Disconnect() {}
@@ -349,7 +350,9 @@ bool SqliteRecordset::Move(long direction) {
 
 long SqliteRecordset::Execute(const QString& sql) {
     const QString statement = translated(sql);
-    const QSqlQuery query = run(connection(), statement, {}, sql);
+    const QSqlDatabase db = connection();
+    database_.lock()->checkStillThere();
+    const QSqlQuery query = run(db, statement, {}, sql);
     const QString keyword = SqlDialect::leadingKeyword(statement);
     if (keyword == u"insert" || keyword == u"update" || keyword == u"delete" ||
         keyword == u"replace") {

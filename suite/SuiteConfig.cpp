@@ -91,6 +91,11 @@ SuiteConfig SuiteConfig::load(const QString& file) {
     readText(ini, suite, QStringLiteral("IniDatei"), c.iniFilePath);
     readText(ini, suite, QStringLiteral("Datenbank"), c.databasePath);
     readText(ini, suite, QStringLiteral("TraceDatei"), c.traceFilePath);
+    long wartezeit = c.busyTimeoutMs;
+    readNumber(ini, suite, QStringLiteral("Wartezeit"), wartezeit);
+    if (wartezeit >= 0 && wartezeit <= 600000) {
+        c.busyTimeoutMs = static_cast<int>(wartezeit);
+    }
     if (ini.contains(suite, QStringLiteral("Trace"))) {
         c.traceOn = isOn(ini.value(suite, QStringLiteral("Trace")));
     }

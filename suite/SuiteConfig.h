@@ -16,6 +16,7 @@
 //   Installationsart=1
 //   IniDatei=/etc/suite/suite.ini
 //   Datenbank=/srv/suite/suite.sqlite
+//   Wartezeit=5000
 //   Trace=1
 //   TraceDatei=/tmp/suite-trace.log
 //   [Dokument]
@@ -37,6 +38,9 @@ struct SuiteConfig {
     bool traceOn = false;
     QString traceFilePath;
     QString databasePath;
+    // How long a statement waits for another writer's lock on the database before it fails
+    // ("Wartezeit" in milliseconds).
+    int busyTimeoutMs = 5000;
 
     // The document data of the host.
 

@@ -38,7 +38,7 @@ std::shared_ptr<Database> openSuiteDatabase(const SuiteConfig& config,
     if (config.databasePath != QLatin1String(":memory:")) {
         QDir().mkpath(QFileInfo(config.databasePath).absolutePath());
     }
-    auto db = Database::open(config.databasePath, std::move(clock));
+    auto db = Database::open(config.databasePath, std::move(clock), config.busyTimeoutMs);
     if (!db->isEmpty()) {
         db->upgradeSchema();
     } else {

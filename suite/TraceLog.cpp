@@ -4,7 +4,25 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include "common/PlatformUi.h"
 #include "common/Services.h"
+
+namespace {
+
+void tellOnce(const QString& path, const QString& cause) {
+    static QStringList told;
+    if (told.contains(path) || !services().ui) {
+        return;
+    }
+    told << path;
+    services().ui->MsgBox(
+        QStringLiteral("Die Ablaufverfolgung kann nicht in die Datei %1 geschrieben werden (%2). "
+                       "Das Programm arbeitet ohne sie weiter.")
+            .arg(QDir::toNativeSeparators(path), cause),
+        48, QStringLiteral("Ablaufverfolgung"));
+}
+
+}  // namespace
 
 long SuiteTraceLog::IsTraceOn() {
     return config_->traceOn ? 1 : 0;
@@ -18,10 +36,17 @@ void SuiteTraceLog::Write(long level, const QString& text) {
     QDir().mkpath(info.absolutePath());
     QFile file(info.absoluteFilePath());
     if (!file.open(QIODevice::WriteOnly | QIODevice::Append)) {
+        tellOnce(file.fileName(), file.errorString());
         return;
     }
+    const qint64 before = file.size();
     const QString line = clockNow().toString(QStringLiteral("yyyy-MM-dd HH:mm:ss")) +
                          QLatin1Char('\t') + QString::number(level) + QLatin1Char('\t') + text +
                          QLatin1Char('\n');
-    file.write(line.toUtf8());
+    const QByteArray bytes = line.toUtf8();
+    if (file.write(bytes) != bytes.size() || !file.flush()) {
+        const QString cause = file.errorString();
+        file.resize(before);  // no half line stays behind
+        tellOnce(file.fileName(), cause);
+    }
 }

@@ -12,8 +12,9 @@ class SuiteTraceLog : public LogClass {
     explicit SuiteTraceLog(std::shared_ptr<SuiteConfig> config) : config_(std::move(config)) {}
 
     long IsTraceOn() override;
-    // A trace that cannot be written is lost without a word: tracing must never make the
-    // traced program fail.
+    // Tracing never makes the traced program fail: a line that cannot be written whole (a
+    // full disk, a file that cannot be opened) is taken back, the user is told once per
+    // trace file and program run, and the program goes on.
     void Write(long level, const QString& text) override;
 
   private:

@@ -1,5 +1,9 @@
 // The run history's statements, filter texts and log directories, against the controller.
+#include <sys/stat.h>
+
 #include <gtest/gtest.h>
+#include <QFile>
+#include <QTemporaryDir>
 
 #include "tests/app/AppTestWorld.h"
 #include "ui/windows/frmVerlauf.h"
@@ -19,6 +23,7 @@ class HistoryTestAccess {
         a.mInitGridVerlauf();
     }
     static void fuelle(cAdminJob& a) { a.mFuelleGridVerlauf(); }
+    static bool buchProt(cAdminJob& a, const QString& sDatei) { return a.mbBuchProt(sDatei); }
     static void loesche(cAdminJob& a) { a.mloescheVerlauf(); }
     static QString zeiteinheit(cAdminJob& a, long lArt) { return a.msGetZeiteinheit(lArt); }
     static QString filterText(cAdminJob& a) { return a.msGetVerlaufFilterString(); }
@@ -230,3 +235,22 @@ TEST(LogFileLinks, NoLogDirectoryConfiguredMakesNoFolders) {
 }
 
 }  // namespace
+
+TEST(BookingsLogFile, PipeAndLinkToItselfAreReportedAsNotFoundWithoutBlocking) {
+    World w;
+    w.start();
+    QTemporaryDir dir;
+    const QString pipe = dir.filePath(QStringLiteral("Buchungen.Log"));
+    ASSERT_EQ(::mkfifo(pipe.toLocal8Bit().constData(), 0600), 0);
+    const QString loop = dir.filePath(QStringLiteral("Schleife.Log"));
+    ASSERT_TRUE(QFile::link(loop, loop));
+
+    EXPECT_FALSE(HistoryTestAccess::buchProt(w.admin(), pipe));
+    EXPECT_FALSE(HistoryTestAccess::buchProt(w.admin(), loop));
+    ASSERT_EQ(w.ui->reports.size(), 2u);
+    for (const auto& report : w.ui->reports) {
+        EXPECT_EQ(report.number, 53);
+        EXPECT_EQ(report.description, "Datei nicht gefunden");
+        EXPECT_TRUE(report.source.endsWith("mbBuchProt"));
+    }
+}

@@ -15,6 +15,7 @@ void ProgramFixture::SetUp() {
     config_->iniFilePath = root() + QStringLiteral("/suite.ini");
     config_->traceFilePath = root() + QStringLiteral("/trace.log");
     config_->databasePath = root() + QStringLiteral("/suite.sqlite");
+    configure(*config_);
     boxes_ = std::make_unique<real_input::MessageBoxes>();
     program_ = std::make_unique<DesktopProgram>(config_);
     program_->start();

@@ -17,6 +17,8 @@ class ProgramFixture : public ::testing::Test {
   protected:
     void SetUp() override;
     void TearDown() override;
+    // Changes the configuration before the program starts on it.
+    virtual void configure(SuiteConfig&) {}
 
     QString root() const { return dir_.path(); }
     HostMainWindow& mainWindow() { return program_->window(); }
