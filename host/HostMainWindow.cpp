@@ -29,6 +29,7 @@ HostMainWindow::HostMainWindow(const QString& title, const QList<ToolDecl>& menu
     }
 
     QMenu* help = menuBar()->addMenu(QStringLiteral("&Hilfe"));
+    help->setObjectName(QStringLiteral("menuHilfe"));
     QAction* helpItem = help->addAction(QStringLiteral("Hilfe zu den automatischen Aufträgen"));
     helpItem->setShortcut(QKeySequence::HelpContents);
     connect(helpItem, &QAction::triggered, this, [this] {
