@@ -3,6 +3,7 @@
 // jobs, in a main window with the host's menus.
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QIcon>
 #include <QTextStream>
 
 #include "common/ErrorExit.h"
@@ -116,6 +117,9 @@ int main(int argc, char* argv[]) {
     }
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("autojobverw"));
+    // Installed, the desktop entry and the icon theme carry the program's name and icon.
+    QGuiApplication::setDesktopFileName(QStringLiteral("autojobverw"));
+    QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("autojobverw")));
 
     auto config = std::make_shared<SuiteConfig>();
     const Options options = parseOptions(app, *config);
