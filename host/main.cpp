@@ -10,6 +10,7 @@
 #include "host/DemoSummary.h"
 #include "host/DesktopProgram.h"
 #include "host/HostMainWindow.h"
+#include "host/JobTransferCommands.h"
 #include "suite/SuiteConfig.h"
 
 namespace {
@@ -18,6 +19,8 @@ struct Options {
     QString configFile;
     bool summary = false;
     QString shot;
+    QString exportFile;
+    QString importFile;
 };
 
 bool hasArgument(int argc, char* argv[], const char* name) {
@@ -31,9 +34,10 @@ bool hasArgument(int argc, char* argv[], const char* name) {
 
 // Without a display the windows cannot open; the summary and the picture need none.
 bool prepareDisplay(int argc, char* argv[]) {
-    const bool windowless = hasArgument(argc, argv, "--summary") ||
-                            hasArgument(argc, argv, "--shot") ||
-                            hasArgument(argc, argv, "--help") || hasArgument(argc, argv, "-h");
+    const bool windowless =
+        hasArgument(argc, argv, "--summary") || hasArgument(argc, argv, "--export") ||
+        hasArgument(argc, argv, "--import") || hasArgument(argc, argv, "--shot") ||
+        hasArgument(argc, argv, "--help") || hasArgument(argc, argv, "-h");
     if (!qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM") ||
         !qEnvironmentVariableIsEmpty("DISPLAY") ||
         !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY")) {
@@ -85,8 +89,17 @@ Options parseOptions(const QApplication& app, SuiteConfig& config) {
         QStringLiteral("shot"),
         QStringLiteral("Open the window off screen, save a picture of it and end."),
         QStringLiteral("FILE"));
-    parser.addOptions(
-        {db, configFile, mandant, mitarbeiter, aktentyp, installationsart, summary, shot});
+    const QCommandLineOption exportJobs(
+        QStringLiteral("export"),
+        QStringLiteral("Write the definitions of all jobs with their schedules to FILE (JSON)."),
+        QStringLiteral("FILE"));
+    const QCommandLineOption importJobs(
+        QStringLiteral("import"),
+        QStringLiteral("Add the jobs of FILE (written by --export) as new jobs; nothing is "
+                       "written when the file has a problem."),
+        QStringLiteral("FILE"));
+    parser.addOptions({db, configFile, mandant, mitarbeiter, aktentyp, installationsart, summary,
+                       shot, exportJobs, importJobs});
     parser.process(app);
 
     Options o;
@@ -106,6 +119,8 @@ Options parseOptions(const QApplication& app, SuiteConfig& config) {
     number(installationsart, config.installationKind);
     o.summary = parser.isSet(summary);
     o.shot = parser.value(shot);
+    o.exportFile = parser.value(exportJobs);
+    o.importFile = parser.value(importJobs);
     return o;
 }
 
@@ -133,6 +148,13 @@ int main(int argc, char* argv[]) {
         return 1;
     }
 
+    if (!options.importFile.isEmpty()) {
+        return JobTransfer::importCommand(program->database().connectionName(), options.importFile,
+                                          config->mitId);
+    }
+    if (!options.exportFile.isEmpty()) {
+        return JobTransfer::exportCommand(program->database().connectionName(), options.exportFile);
+    }
     if (options.summary) {
         QTextStream(stdout) << "Datenbank: " << program->database().path() << "\n" << demoSummary();
         return 0;
