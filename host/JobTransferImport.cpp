@@ -555,6 +555,8 @@ QString importReport(const ImportResult& result) {
     }
     QString text = result.imported.isEmpty()
                        ? QStringLiteral("Das Dokument enthält keinen Auftrag.")
+                   : result.imported.size() == 1
+                       ? QStringLiteral("1 Auftrag importiert:\n%1").arg(quoted(result.imported))
                        : QStringLiteral("%1 Aufträge importiert:\n%2")
                              .arg(result.imported.size())
                              .arg(quoted(result.imported));

@@ -53,5 +53,18 @@ grep -q "^Aufträge: [1-9]" <<<"$summary" || fail "summary without the demo jobs
 [ "$(head -c 8 "$work/list.png" | od -An -tx1 | tr -d ' \n')" = 89504e470d0a1a0a ] ||
   fail "--shot wrote no PNG"
 
+# Job definitions carried from one database to another from the command line.
+"$root/usr/bin/autojobverw" --db "$work/office.sqlite" --export "$work/jobs.json" >/dev/null ||
+  fail "--export failed"
+"$root/usr/bin/autojobverw" --db "$work/other.sqlite" --import "$work/jobs.json" \
+  >"$work/import.out" 2>/dev/null || fail "--import failed: $(cat "$work/import.out")"
+grep -q '^[1-9][0-9]* Aufträge importiert:' "$work/import.out" ||
+  fail "unexpected import report: $(cat "$work/import.out")"
+echo '{"format": "autojobverw-auftraege", "version": 9}' >"$work/broken.json"
+if "$root/usr/bin/autojobverw" --db "$work/other.sqlite" --import "$work/broken.json" \
+  >/dev/null 2>&1; then
+  fail "--import of a broken document did not fail"
+fi
+
 "$root/usr/bin/autojobverw-agent" --help >/dev/null 2>&1 || fail "the agent does not start"
 echo "package: $(basename "$deb") installs and starts"

@@ -126,7 +126,7 @@ TEST_F(JobTransferTest, ANameThatExistsIsAddedAsANewJobAndNamedInTheReport) {
                                     "'Lieferanten Autohaus Lindner'")),
               QStringLiteral("2"));
     EXPECT_EQ(importReport(r),
-              QStringLiteral("1 Aufträge importiert:\n  \"Lieferanten Autohaus Lindner\"\n\n"
+              QStringLiteral("1 Auftrag importiert:\n  \"Lieferanten Autohaus Lindner\"\n\n"
                              "Diese Namen gab es schon; die Aufträge wurden als neue Aufträge "
                              "angelegt:\n  \"Lieferanten Autohaus Lindner\""));
 }

@@ -97,7 +97,7 @@ TEST_F(JobTransferMenuTest, ExportOfTheSelectedJobThenImportAddsItAndTheListShow
     chooseMenu(QStringLiteral("Datei"), kImport);
     ASSERT_TRUE(waitFor([&] { return boxes_->shown().size() == 2; }));
     EXPECT_EQ(boxes_->shown().at(1),
-              QStringLiteral("1 Aufträge importiert:\n  \"Lieferanten Autohaus Lindner\"\n\n"
+              QStringLiteral("1 Auftrag importiert:\n  \"Lieferanten Autohaus Lindner\"\n\n"
                              "Diese Namen gab es schon; die Aufträge wurden als neue Aufträge "
                              "angelegt:\n  \"Lieferanten Autohaus Lindner\""));
     EXPECT_EQ(scalar(QStringLiteral("select count(*) from tAutoJobJob where Name = "
