@@ -6,9 +6,11 @@
 #include <QFileDialog>
 #include <QItemSelectionModel>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QSaveFile>
 #include <QTableView>
 #include <QTextStream>
+#include <optional>
 
 #include "common/ErrObject.h"
 #include "host/JobTransfer.h"
@@ -114,16 +116,42 @@ QList<long> selectedJobIds(const QTableView* list) {
     return ids;
 }
 
-void exportFromMenu(QWidget* parent, const QString& connectionName, const QList<long>& jobIds) {
-    const QString title =
-        jobIds.isEmpty() ? QStringLiteral("Alle Aufträge exportieren")
-                         : QStringLiteral("Markierte Aufträge exportieren (%1)").arg(jobIds.size());
+// The list always has a row marked: the user says whether only the marked jobs go.
+std::optional<QList<long>> chooseJobs(QWidget* parent, const QList<long>& marked) {
+    if (marked.isEmpty()) {
+        return marked;
+    }
+    QMessageBox box(QMessageBox::Question, QStringLiteral("Aufträge exportieren"),
+                    QStringLiteral("Welche Aufträge sollen exportiert werden?"),
+                    QMessageBox::NoButton, parent);
+    QPushButton* onlyMarked = box.addButton(QStringLiteral("Nur markierte (%1)").arg(marked.size()),
+                                            QMessageBox::AcceptRole);
+    QPushButton* all = box.addButton(QStringLiteral("Alle Aufträge"), QMessageBox::AcceptRole);
+    box.setEscapeButton(box.addButton(QStringLiteral("Abbrechen"), QMessageBox::RejectRole));
+    box.setDefaultButton(onlyMarked);
+    box.exec();
+    if (box.clickedButton() == onlyMarked) {
+        return marked;
+    }
+    if (box.clickedButton() == all) {
+        return QList<long>();
+    }
+    return std::nullopt;
+}
+
+void exportFromMenu(QWidget* parent, const QString& connectionName, const QList<long>& marked) {
+    const std::optional<QList<long>> jobIds = chooseJobs(parent, marked);
+    if (!jobIds) {
+        return;
+    }
+    const QString title = jobIds->isEmpty() ? QStringLiteral("Alle Aufträge exportieren")
+                                            : QStringLiteral("Markierte Aufträge exportieren");
     const QString file = chooseFile(parent, QStringLiteral("dlgExport"), title, true);
     if (file.isEmpty()) {
         return;
     }
     int count = 0;
-    const QString error = exportTo(connectionName, jobIds, file, count);
+    const QString error = exportTo(connectionName, *jobIds, file, count);
     if (!error.isEmpty()) {
         QMessageBox::warning(
             parent, QStringLiteral("Aufträge exportieren"),

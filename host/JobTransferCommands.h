@@ -18,8 +18,9 @@ int importCommand(const QString& connectionName, const QString& file, long staff
 // The job ids of the rows selected in the list; empty when none is selected.
 QList<long> selectedJobIds(const QTableView* list);
 
-// "Aufträge exportieren…": the selected jobs or all, to a file the user chooses.
-void exportFromMenu(QWidget* parent, const QString& connectionName, const QList<long>& jobIds);
+// "Aufträge exportieren…": the marked jobs or all, as the user answers, to a file the user
+// chooses.
+void exportFromMenu(QWidget* parent, const QString& connectionName, const QList<long>& marked);
 // "Aufträge importieren…": a file the user chooses; written jobs end in refresh().
 void importFromMenu(QWidget* parent, const QString& connectionName, long staffId,
                     const std::function<void()>& refresh);

@@ -1,10 +1,10 @@
 // Export and import of job definitions through the menu "Datei" of the program users start.
 #include <QFile>
 #include <QFileDialog>
-#include <QLineEdit>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QLineEdit>
 #include <QMenu>
 
 #include "host/JobTransfer.h"
@@ -60,6 +60,10 @@ TEST_F(JobTransferMenuTest, TheFileMenuOffersExportAndImportBeforeBeenden) {
 
 TEST_F(JobTransferMenuTest, CancelInTheFileDialogsDoesNothing) {
     const QString file = root() + QStringLiteral("/Auftraege.json");
+    // Cancel in the question which jobs go, then in the file dialog.
+    chooseMenu(QStringLiteral("Datei"), kExport);
+    ASSERT_TRUE(waitFor([&] { return boxes_->shown().size() == 1; }));
+    boxes_->answerNext(QStringLiteral("Alle Aufträge"));
     bool shown = false;
     answerFileDialog(QStringLiteral("dlgExport"), QString(), shown);
     chooseMenu(QStringLiteral("Datei"), kExport);
@@ -70,7 +74,8 @@ TEST_F(JobTransferMenuTest, CancelInTheFileDialogsDoesNothing) {
     ASSERT_TRUE(waitFor([&] { return shown; }));
 
     EXPECT_FALSE(QFile::exists(file));
-    EXPECT_EQ(boxes_->shown(), QStringList());
+    EXPECT_EQ(boxes_->shown(), (QStringList(2, QStringLiteral("Welche Aufträge sollen exportiert "
+                                                              "werden?"))));
     EXPECT_EQ(scalar(QStringLiteral("select count(*) from tAutoJobJob")), QStringLiteral("14"));
 }
 
@@ -80,12 +85,13 @@ TEST_F(JobTransferMenuTest, ExportOfTheSelectedJobThenImportAddsItAndTheListShow
         rowShowing(list(), QStringLiteral("Name"), QStringLiteral("Lieferanten Autohaus Lindner"));
     ASSERT_GE(row, 0);
     clickRow(list(), row);
+    boxes_->answerNext(QStringLiteral("Nur markierte (1)"));
     bool shown = false;
     answerFileDialog(QStringLiteral("dlgExport"), file, shown);
     chooseMenu(QStringLiteral("Datei"), kExport);
-    ASSERT_TRUE(waitFor([&] { return !boxes_->shown().isEmpty(); }));
-    EXPECT_EQ(boxes_->shown(),
-              QStringList{QStringLiteral("Die Aufträge wurden exportiert nach\n%1").arg(file)});
+    ASSERT_TRUE(waitFor([&] { return boxes_->shown().size() == 2; }));
+    EXPECT_EQ(boxes_->shown().at(1),
+              QStringLiteral("Die Aufträge wurden exportiert nach\n%1").arg(file));
     const QJsonArray jobs = jobsIn(file);
     ASSERT_EQ(jobs.size(), 1);
     EXPECT_EQ(jobs[0][QStringLiteral("name")].toString(),
@@ -95,8 +101,8 @@ TEST_F(JobTransferMenuTest, ExportOfTheSelectedJobThenImportAddsItAndTheListShow
     shown = false;
     answerFileDialog(QStringLiteral("dlgImport"), file, shown);
     chooseMenu(QStringLiteral("Datei"), kImport);
-    ASSERT_TRUE(waitFor([&] { return boxes_->shown().size() == 2; }));
-    EXPECT_EQ(boxes_->shown().at(1),
+    ASSERT_TRUE(waitFor([&] { return boxes_->shown().size() == 3; }));
+    EXPECT_EQ(boxes_->shown().at(2),
               QStringLiteral("1 Auftrag importiert:\n  \"Lieferanten Autohaus Lindner\"\n\n"
                              "Diese Namen gab es schon; die Aufträge wurden als neue Aufträge "
                              "angelegt:\n  \"Lieferanten Autohaus Lindner\""));
