@@ -10,6 +10,7 @@
 
 #include "common/ErrorExit.h"
 #include "host/JobTransferFields.h"
+#include "host/JobTransferSql.h"
 #include "jobs/JobRecord.h"
 #include "jobs/JobTypes.h"
 #include "jobs/Zusatzinfo.h"
@@ -17,21 +18,6 @@
 namespace JobTransfer {
 
 namespace {
-
-QSqlQuery run(const QSqlDatabase& db, const QString& sql, const QVariantList& values = {}) {
-    QSqlQuery q(db);
-    q.setForwardOnly(true);
-    if (!q.prepare(sql)) {
-        raiseError(q.lastError().text());
-    }
-    for (const QVariant& v : values) {
-        q.addBindValue(v);
-    }
-    if (!q.exec()) {
-        raiseError(q.lastError().text());
-    }
-    return q;
-}
 
 QString staffName(const QSqlDatabase& db, long id) {
     if (id <= 0) {

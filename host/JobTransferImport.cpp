@@ -14,6 +14,7 @@
 #include <optional>
 
 #include "host/JobTransferFields.h"
+#include "host/JobTransferSql.h"
 #include "jobs/ClientKinds.h"
 #include "jobs/JobRecord.h"
 #include "jobs/Zusatzinfo.h"
@@ -129,21 +130,6 @@ class Reader {
     QString where_;
     QJsonObject object_;
 };
-
-QSqlQuery run(const QSqlDatabase& db, const QString& sql, const QVariantList& values = {}) {
-    QSqlQuery q(db);
-    q.setForwardOnly(true);
-    if (!q.prepare(sql)) {
-        raiseError(q.lastError().text());
-    }
-    for (const QVariant& v : values) {
-        q.addBindValue(v);
-    }
-    if (!q.exec()) {
-        raiseError(q.lastError().text());
-    }
-    return q;
-}
 
 // Staff members and clients of the target database, looked up by what the document names.
 struct Lookups {
