@@ -1,5 +1,7 @@
 #include "gui/QtUi.h"
 
+#include "gui/QtHelpWindow.h"
+
 #include <QApplication>
 #include <QDir>
 #include <QFileDialog>
@@ -160,14 +162,10 @@ void QtUi::ShowErrorReport(long number, const QString& source, const QString& de
     box.exec();
 }
 
-// The suite's help file is not part of this program: the box names the topic asked for.
-void QtUi::ShowHelp(const QString& helpFile, const QString& topic) {
-    QMessageBox box(QMessageBox::Information, QStringLiteral("Hilfe"),
-                    QStringLiteral("Hilfethema: %1").arg(topic), QMessageBox::NoButton,
-                    dialogParent());
-    box.setInformativeText(QStringLiteral("Hilfedatei: %1").arg(helpFile));
-    box.addButton(QStringLiteral("OK"), QMessageBox::AcceptRole);
-    box.exec();
+// The suite's help file is not part of this program: the program's own help window shows
+// the topic's text from its resources.
+void QtUi::ShowHelp(const QString&, const QString& topic) {
+    QtHelpWindow::shared(dialogParent())->showTopic(topic);
 }
 
 std::optional<QString> QtUi::FileDialog(const QString& title, const QString& filter,

@@ -1,5 +1,7 @@
 #include "host/DesktopProgram.h"
 
+#include <QTableView>
+
 #include "common/Clock.h"
 #include "common/ModuleHelpers.h"
 #include "gui/QtBookingLogDisplay.h"
@@ -7,6 +9,7 @@
 #include "gui/QtWindowFactory.h"
 #include "host/DesktopSession.h"
 #include "host/HostMainWindow.h"
+#include "host/JobTransferCommands.h"
 #include "program/ProgramServices.h"
 #include "suite/SuiteServices.h"
 #include "ui/windows/frmPakete.h"
@@ -45,12 +48,24 @@ DesktopProgram::DesktopProgram(std::shared_ptr<SuiteConfig> config)
     window_->setWindowTitle(msGetTitel());
     window_->onTool = [session = session_.get()](const QString& tool) { session->tool(tool); };
     window_->onClose = [this] { end(); };
+    window_->onExport = [this] {
+        const QWidget* list = window_->centralWidget();
+        JobTransfer::exportFromMenu(
+            window_.get(), db_->connectionName(),
+            JobTransfer::selectedJobIds(list ? list->findChild<QTableView*>() : nullptr));
+    };
+    window_->onImport = [this] {
+        JobTransfer::importFromMenu(window_.get(), db_->connectionName(), config_->mitId,
+                                    [session = session_.get()] { session->refresh(); });
+    };
 }
 
 DesktopProgram::~DesktopProgram() {
     end();
     window_->onTool = nullptr;
     window_->onClose = nullptr;
+    window_->onExport = nullptr;
+    window_->onImport = nullptr;
     session_.reset();
     window_.reset();
     scope_.reset();

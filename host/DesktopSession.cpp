@@ -65,6 +65,11 @@ void DesktopSession::start() {
     notify(2);
 }
 
+void DesktopSession::refresh() {
+    constexpr long kNeustart = 21;
+    notify(kNeustart);
+}
+
 void DesktopSession::tool(const QString& name) {
     if (main_ && main_->applikation()) {
         main_->applikation()->IUIApplikation_AktionBearbeiten(name);

@@ -26,6 +26,8 @@ class DesktopSession {
     void start();
     // A menu item of the host.
     void tool(const QString& name);
+    // Code 21: the list reads the jobs again, after they were changed from outside.
+    void refresh();
     // Code 9: everything is discarded, nothing saved.
     void end();
 

@@ -20,6 +20,24 @@ HostMainWindow::HostMainWindow(const QString& title, const QList<ToolDecl>& menu
 
     QMenu* file = menuBar()->addMenu(QStringLiteral("&Datei"));
     file->setObjectName(QStringLiteral("menuDatei"));
+    QAction* exportItem = file->addAction(QStringLiteral("Aufträge exportieren…"));
+    exportItem->setObjectName(QStringLiteral("mnuExportieren"));
+    exportItem->setToolTip(
+        QStringLiteral("Speichert die markierten Aufträge, ohne Markierung alle, in einer Datei"));
+    connect(exportItem, &QAction::triggered, this, [this] {
+        if (onExport) {
+            onExport();
+        }
+    });
+    QAction* importItem = file->addAction(QStringLiteral("Aufträge importieren…"));
+    importItem->setObjectName(QStringLiteral("mnuImportieren"));
+    importItem->setToolTip(QStringLiteral("Legt die Aufträge einer Datei als neue Aufträge an"));
+    connect(importItem, &QAction::triggered, this, [this] {
+        if (onImport) {
+            onImport();
+        }
+    });
+    file->addSeparator();
     QAction* quit = file->addAction(QStringLiteral("&Beenden"));
     quit->setShortcut(QKeySequence::Quit);
     connect(quit, &QAction::triggered, this, &QWidget::close);
@@ -29,6 +47,7 @@ HostMainWindow::HostMainWindow(const QString& title, const QList<ToolDecl>& menu
     }
 
     QMenu* help = menuBar()->addMenu(QStringLiteral("&Hilfe"));
+    help->setObjectName(QStringLiteral("menuHilfe"));
     QAction* helpItem = help->addAction(QStringLiteral("Hilfe zu den automatischen Aufträgen"));
     helpItem->setShortcut(QKeySequence::HelpContents);
     connect(helpItem, &QAction::triggered, this, [this] {

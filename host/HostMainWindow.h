@@ -29,6 +29,9 @@ class HostMainWindow : public QMainWindow {
     std::function<void(const QString& tool)> onTool;
     // The window is closing.
     std::function<void()> onClose;
+    // "Datei": export and import of job definitions.
+    std::function<void()> onExport;
+    std::function<void()> onImport;
 
   protected:
     void closeEvent(QCloseEvent* event) override;

@@ -3,6 +3,7 @@
 // jobs, in a main window with the host's menus.
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QIcon>
 #include <QTextStream>
 
 #include "common/ErrorExit.h"
@@ -11,6 +12,7 @@
 #include "host/DemoSummary.h"
 #include "host/DesktopProgram.h"
 #include "host/HostMainWindow.h"
+#include "host/JobTransferCommands.h"
 #include "suite/SuiteConfig.h"
 
 namespace {
@@ -19,6 +21,8 @@ struct Options {
     QString configFile;
     bool summary = false;
     QString shot;
+    QString exportFile;
+    QString importFile;
 };
 
 bool hasArgument(int argc, char* argv[], const char* name) {
@@ -32,9 +36,10 @@ bool hasArgument(int argc, char* argv[], const char* name) {
 
 // Without a display the windows cannot open; the summary and the picture need none.
 bool prepareDisplay(int argc, char* argv[]) {
-    const bool windowless = hasArgument(argc, argv, "--summary") ||
-                            hasArgument(argc, argv, "--shot") ||
-                            hasArgument(argc, argv, "--help") || hasArgument(argc, argv, "-h");
+    const bool windowless =
+        hasArgument(argc, argv, "--summary") || hasArgument(argc, argv, "--export") ||
+        hasArgument(argc, argv, "--import") || hasArgument(argc, argv, "--shot") ||
+        hasArgument(argc, argv, "--help") || hasArgument(argc, argv, "-h");
     if (!qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM") ||
         !qEnvironmentVariableIsEmpty("DISPLAY") ||
         !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY")) {
@@ -86,8 +91,17 @@ Options parseOptions(const QApplication& app, SuiteConfig& config) {
         QStringLiteral("shot"),
         QStringLiteral("Open the window off screen, save a picture of it and end."),
         QStringLiteral("FILE"));
-    parser.addOptions(
-        {db, configFile, mandant, mitarbeiter, aktentyp, installationsart, summary, shot});
+    const QCommandLineOption exportJobs(
+        QStringLiteral("export"),
+        QStringLiteral("Write the definitions of all jobs with their schedules to FILE (JSON)."),
+        QStringLiteral("FILE"));
+    const QCommandLineOption importJobs(
+        QStringLiteral("import"),
+        QStringLiteral("Add the jobs of FILE (written by --export) as new jobs; nothing is "
+                       "written when the file has a problem."),
+        QStringLiteral("FILE"));
+    parser.addOptions({db, configFile, mandant, mitarbeiter, aktentyp, installationsart, summary,
+                       shot, exportJobs, importJobs});
     parser.process(app);
 
     Options o;
@@ -107,6 +121,8 @@ Options parseOptions(const QApplication& app, SuiteConfig& config) {
     number(installationsart, config.installationKind);
     o.summary = parser.isSet(summary);
     o.shot = parser.value(shot);
+    o.exportFile = parser.value(exportJobs);
+    o.importFile = parser.value(importJobs);
     return o;
 }
 
@@ -118,6 +134,9 @@ int main(int argc, char* argv[]) {
     }
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("autojobverw"));
+    // Installed, the desktop entry and the icon theme carry the program's name and icon.
+    QGuiApplication::setDesktopFileName(QStringLiteral("autojobverw"));
+    QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("autojobverw")));
 
     auto config = std::make_shared<SuiteConfig>();
     const Options options = parseOptions(app, *config);
@@ -140,6 +159,13 @@ int main(int argc, char* argv[]) {
         return 1;
     }
 
+    if (!options.importFile.isEmpty()) {
+        return JobTransfer::importCommand(program->database().connectionName(), options.importFile,
+                                          config->mitId);
+    }
+    if (!options.exportFile.isEmpty()) {
+        return JobTransfer::exportCommand(program->database().connectionName(), options.exportFile);
+    }
     if (options.summary) {
         QTextStream(stdout) << "Datenbank: " << program->database().path() << "\n" << demoSummary();
         return 0;

@@ -1,0 +1,280 @@
+// Export and import of job definitions on the demo database: the document, its round trip,
+// each rule of the check and the name clash.
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QSqlDatabase>
+#include <QSqlQuery>
+
+#include "host/JobTransfer.h"
+#include "tests/host/ProgramFixture.h"
+
+using namespace JobTransfer;
+
+namespace {
+
+QJsonObject parse(const QByteArray& bytes) {
+    return QJsonDocument::fromJson(bytes).object();
+}
+
+QByteArray bytesOf(const QJsonObject& o) {
+    return QJsonDocument(o).toJson();
+}
+
+}  // namespace
+
+class JobTransferTest : public ProgramFixture {
+  protected:
+    QString connection() { return program_->database().connectionName(); }
+    QByteArray exportAll() { return exportJobs(connection(), {}); }
+    QString jobCount() { return scalar(QStringLiteral("select count(*) from tAutoJobJob")); }
+    void deleteAllJobs() {
+        QSqlQuery q(QSqlDatabase::database(connection(), false));
+        ASSERT_TRUE(q.exec(QStringLiteral("delete from tAutoJobSchedule")));
+        ASSERT_TRUE(q.exec(QStringLiteral("delete from tAutoJobJob")));
+    }
+
+    // One job of the demo document with one value changed, as a whole document.
+    QByteArray withJob(const QString& jobName, const std::function<void(QJsonObject&)>& change) {
+        QJsonObject doc = parse(exportAll());
+        QJsonArray kept;
+        for (const QJsonValue& v : doc[QStringLiteral("auftraege")].toArray()) {
+            QJsonObject job = v.toObject();
+            if (job[QStringLiteral("name")].toString() == jobName) {
+                change(job);
+                kept.append(job);
+            }
+        }
+        doc[QStringLiteral("auftraege")] = kept;
+        return bytesOf(doc);
+    }
+    QStringList problemsOf(const QByteArray& document) {
+        const QString before = jobCount();
+        const ImportResult r = importJobs(connection(), document, 1);
+        EXPECT_FALSE(r.written);
+        EXPECT_EQ(jobCount(), before);
+        return r.problems;
+    }
+};
+
+TEST_F(JobTransferTest, RoundTripOfEveryJobTypeAndScheduleKindGivesTheSameDocument) {
+    const QByteArray first = exportAll();
+    const QJsonObject doc = parse(first);
+    EXPECT_EQ(doc[QStringLiteral("format")].toString(), kFormat);
+    EXPECT_EQ(doc[QStringLiteral("version")].toInt(), 1);
+    QSet<int> types;
+    QSet<int> kinds;
+    QSet<int> units;
+    for (const QJsonValue& j : doc[QStringLiteral("auftraege")].toArray()) {
+        types << j[QStringLiteral("auftragsart")].toInt();
+        for (const QJsonValue& s : j[QStringLiteral("zeitplaene")].toArray()) {
+            kinds << s[QStringLiteral("typ")].toInt();
+            units << s[QStringLiteral("tagesEinheit")].toInt();
+        }
+    }
+    EXPECT_EQ(types, (QSet<int>{4, 5, 17, 18, 20, 21, 28, 30, 99}));
+    EXPECT_EQ(kinds, (QSet<int>{1, 4, 8, 16, 32}));
+    EXPECT_EQ(units, (QSet<int>{1, 4, 8}));
+    // No ids and no archive passwords travel.
+    EXPECT_FALSE(first.contains("idAutoJob"));
+    EXPECT_FALSE(first.contains("4323032332679686362714"));
+    EXPECT_FALSE(first.contains("1376e65766cf2705"));
+
+    deleteAllJobs();
+    const ImportResult r = importJobs(connection(), first, 2);
+    ASSERT_TRUE(r.written) << r.problems.join(QLatin1Char('\n')).toStdString();
+    EXPECT_EQ(r.imported.size(), 14);
+    EXPECT_EQ(r.nameClashes, QStringList());
+    EXPECT_EQ(r.needPassword, (QStringList{QStringLiteral("Scan-Dokumente Kanzlei Brandt"),
+                                           QStringLiteral("Verschlagwortung aller Belege"),
+                                           QStringLiteral("Scan-Dokumente Bäckerei Huber")}));
+    EXPECT_EQ(QString::fromUtf8(exportAll()), QString::fromUtf8(first));
+
+    // Stored as the editor keeps them: the archive login's staff id, an empty password,
+    // the client's id, the composed extra information; the importer as the last editor.
+    EXPECT_EQ(scalar(QStringLiteral("select MTAPath || '/' || BackupPath || '/' || Ps_Id_Mandant "
+                                    "|| '/' || Ps_Id_Mitarbeiter from tAutoJobJob where Name = "
+                                    "'Scan-Dokumente Kanzlei Brandt'")),
+              QStringLiteral("2//5/2"));
+    EXPECT_EQ(scalar(QStringLiteral("select Zusatzinfo from tAutoJobJob where Name = "
+                                    "'Nivora Händlerdaten Elektro Sommer'")),
+              QStringLiteral("1"));
+    EXPECT_EQ(scalar(QStringLiteral("select ActiveStartTimeOfDay || ' ' || ActiveStartDate from "
+                                    "tAutoJobSchedule s join tAutoJobJob j on j.idAutoJob = "
+                                    "s.idAutoJob where j.Name = 'Buchungen Bäckerei Huber (CSV)' "
+                                    "and s.Name = 'Zeitplan02'")),
+              QStringLiteral("143000 2026-11-28 00:00:00"));
+}
+
+TEST_F(JobTransferTest, SelectedJobsOnlyInTheOrderOfTheirIds) {
+    const QJsonArray jobs =
+        parse(exportJobs(connection(), {9, 2}))[QStringLiteral("auftraege")].toArray();
+    ASSERT_EQ(jobs.size(), 2);
+    EXPECT_EQ(jobs[0][QStringLiteral("name")].toString(),
+              QStringLiteral("Lieferanten Autohaus Lindner"));
+    EXPECT_EQ(jobs[1][QStringLiteral("name")].toString(),
+              QStringLiteral("Verschlagwortung aller Belege"));
+}
+
+TEST_F(JobTransferTest, ANameThatExistsIsAddedAsANewJobAndNamedInTheReport) {
+    const QByteArray doc = exportJobs(connection(), {2});
+    const ImportResult r = importJobs(connection(), doc, 1);
+    ASSERT_TRUE(r.written);
+    EXPECT_EQ(r.nameClashes, QStringList{QStringLiteral("Lieferanten Autohaus Lindner")});
+    EXPECT_EQ(jobCount(), QStringLiteral("15"));
+    EXPECT_EQ(scalar(QStringLiteral("select count(*) from tAutoJobJob where Name = "
+                                    "'Lieferanten Autohaus Lindner'")),
+              QStringLiteral("2"));
+    EXPECT_EQ(importReport(r),
+              QStringLiteral("1 Auftrag importiert:\n  \"Lieferanten Autohaus Lindner\"\n\n"
+                             "Diese Namen gab es schon; die Aufträge wurden als neue Aufträge "
+                             "angelegt:\n  \"Lieferanten Autohaus Lindner\""));
+}
+
+TEST_F(JobTransferTest, TheDocumentItselfMustBeJsonOfThisFormatAndVersion) {
+    EXPECT_EQ(problemsOf("{ kein json"),
+              QStringList{QStringLiteral("Das Dokument ist kein gültiges JSON: unterminated "
+                                         "object (an Stelle 3).")})
+        << "Qt's own words for the parse error";
+    QJsonObject doc = parse(exportAll());
+    doc[QStringLiteral("format")] = QStringLiteral("etwas anderes");
+    EXPECT_EQ(problemsOf(bytesOf(doc)),
+              QStringList{QStringLiteral("Das Dokument enthält keine Auftragsdefinitionen "
+                                         "(\"format\" ist nicht \"autojobverw-auftraege\").")});
+    doc = parse(exportAll());
+    doc[QStringLiteral("version")] = 2;
+    EXPECT_EQ(problemsOf(bytesOf(doc)),
+              QStringList{QStringLiteral("Die Version 2 des Dokuments wird nicht unterstützt "
+                                         "(erwartet: 1).")});
+    doc = parse(exportAll());
+    doc.remove(QStringLiteral("auftraege"));
+    EXPECT_EQ(problemsOf(bytesOf(doc)),
+              QStringList{QStringLiteral("Das Dokument hat keine Liste \"auftraege\".")});
+}
+
+TEST_F(JobTransferTest, EveryRuleOfAJobIsToldWithTheJobsName) {
+    const QString lindner = QStringLiteral("Lieferanten Autohaus Lindner");
+    struct Case {
+        std::function<void(QJsonObject&)> change;
+        QString problem;
+    };
+    const QList<Case> cases{
+        {[](QJsonObject& j) { j.remove(QStringLiteral("aktiviert")); },
+         QStringLiteral("Auftrag \"%1\": \"aktiviert\" fehlt.")},
+        {[](QJsonObject& j) { j[QStringLiteral("aktiviert")] = 1; },
+         QStringLiteral("Auftrag \"%1\": \"aktiviert\" muss true oder false sein.")},
+        {[](QJsonObject& j) { j[QStringLiteral("beschreibung")] = 5; },
+         QStringLiteral("Auftrag \"%1\": \"beschreibung\" muss ein Text sein.")},
+        {[](QJsonObject& j) { j[QStringLiteral("auftragsart")] = 7; },
+         QStringLiteral("Auftrag \"%1\": \"auftragsart\" hat den unbekannten Wert 7.")},
+        {[](QJsonObject& j) { j[QStringLiteral("auftragsart")] = 4.5; },
+         QStringLiteral("Auftrag \"%1\": \"auftragsart\" muss eine ganze Zahl sein.")},
+        {[](QJsonObject& j) { j[QStringLiteral("mandKanz")] = 6; },
+         QStringLiteral("Auftrag \"%1\": \"mandKanz\" muss zwischen 1 und 5 liegen, nicht 6.")},
+        {[](QJsonObject& j) { j[QStringLiteral("mandant")] = QStringLiteral("99999"); },
+         QStringLiteral("Auftrag \"%1\": Den Mandanten \"99999\" gibt es in dieser Datenbank "
+                        "nicht.")},
+        {[](QJsonObject& j) { j[QStringLiteral("mandKanz")] = 3; },
+         QStringLiteral("Auftrag \"%1\": \"mandant\" muss leer sein, wenn der Auftrag für alle "
+                        "gilt.")},
+        {[](QJsonObject& j) { j[QStringLiteral("mitarbeiter")] = QStringLiteral("Niemand"); },
+         QStringLiteral("Auftrag \"%1\": Den Mitarbeiter \"Niemand\" gibt es in dieser "
+                        "Datenbank nicht.")},
+        {[](QJsonObject& j) { j.remove(QStringLiteral("zeitplaene")); },
+         QStringLiteral("Auftrag \"%1\": \"zeitplaene\" fehlt.")},
+    };
+    for (const Case& c : cases) {
+        const QString expected = c.problem.arg(lindner);
+        SCOPED_TRACE(expected.toStdString());
+        EXPECT_EQ(problemsOf(withJob(lindner, c.change)), QStringList{expected});
+    }
+    EXPECT_EQ(
+        problemsOf(withJob(lindner, [](QJsonObject& j) { j[QStringLiteral("name")] = QString(); })),
+        QStringList{QStringLiteral("Auftrag Nr. 1: \"name\" darf nicht leer sein.")});
+}
+
+TEST_F(JobTransferTest, TypeRulesAndPasswordsThatMustNotTravel) {
+    EXPECT_EQ(
+        problemsOf(withJob(QStringLiteral("Nivora Händlerdaten Elektro Sommer"),
+                           [](QJsonObject& j) { j[QStringLiteral("haendlerSchluessel")] = 4; })),
+        QStringList{QStringLiteral("Auftrag \"Nivora Händlerdaten Elektro Sommer\": "
+                                   "\"haendlerSchluessel\" muss zwischen 1 und 3 liegen, "
+                                   "nicht 4.")});
+    EXPECT_EQ(problemsOf(withJob(QStringLiteral("Scan-Dokumente Kanzlei Brandt"),
+                                 [](QJsonObject& j) {
+                                     j[QStringLiteral("verzeichnis2")] = QStringLiteral("geheim");
+                                 })),
+              QStringList{QStringLiteral("Auftrag \"Scan-Dokumente Kanzlei Brandt\": "
+                                         "\"verzeichnis2\" ist hier nicht erlaubt: Kennwörter "
+                                         "werden nicht übertragen.")});
+}
+
+TEST_F(JobTransferTest, EveryRuleOfAScheduleIsToldWithJobAndScheduleName) {
+    const QString job = QStringLiteral("Buchungen Bäckerei Huber (CSV)");  // daily, then once
+    struct Case {
+        int schedule;
+        QString key;
+        QJsonValue value;
+        QString problem;
+    };
+    const QList<Case> cases{
+        {0, QStringLiteral("typ"), 2, QStringLiteral("\"typ\" hat den unbekannten Wert 2.")},
+        {0, QStringLiteral("intervall"), 367,
+         QStringLiteral("\"intervall\" muss zwischen 1 und 366 liegen, nicht 367.")},
+        {0, QStringLiteral("wiederholung"), 1,
+         QStringLiteral("\"wiederholung\" muss zwischen 0 und 0 liegen, nicht 1.")},
+        {0, QStringLiteral("tagesEinheit"), 2,
+         QStringLiteral("\"tagesEinheit\" hat den unbekannten Wert 2.")},
+        {0, QStringLiteral("tagesIntervall"), 1441,
+         QStringLiteral("\"tagesIntervall\" muss zwischen 1 und 1440 liegen, nicht 1441.")},
+        {0, QStringLiteral("startZeit"), QStringLiteral("24:00:00"),
+         QStringLiteral("\"startZeit\" ist keine Uhrzeit (HH:MM:SS): \"24:00:00\".")},
+        {0, QStringLiteral("endZeit"), QStringLiteral("06:00:00"),
+         QStringLiteral("\"endZeit\" liegt vor \"startZeit\".")},
+        {0, QStringLiteral("startDatum"), QStringLiteral("2026-02-30"),
+         QStringLiteral("\"startDatum\" ist kein Datum (JJJJ-MM-TT): \"2026-02-30\".")},
+        {0, QStringLiteral("endDatum"), QStringLiteral("2020-01-01"),
+         QStringLiteral("\"endDatum\" liegt vor \"startDatum\".")},
+        {1, QStringLiteral("endDatum"), QStringLiteral("2026-12-01"),
+         QStringLiteral("ein einmaliger Zeitplan endet an seinem \"startDatum\".")},
+        {1, QStringLiteral("aktiviert"), QStringLiteral("ja"),
+         QStringLiteral("\"aktiviert\" muss true oder false sein.")},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.problem.toStdString());
+        const QByteArray doc = withJob(job, [&](QJsonObject& j) {
+            QJsonArray schedules = j[QStringLiteral("zeitplaene")].toArray();
+            QJsonObject s = schedules[c.schedule].toObject();
+            s[c.key] = c.value;
+            schedules[c.schedule] = s;
+            j[QStringLiteral("zeitplaene")] = schedules;
+        });
+        EXPECT_EQ(problemsOf(doc),
+                  QStringList{QStringLiteral("Auftrag \"%1\", Zeitplan \"Zeitplan0%2\": %3")
+                                  .arg(job)
+                                  .arg(c.schedule + 1)
+                                  .arg(c.problem)});
+    }
+}
+
+TEST_F(JobTransferTest, AllProblemsOfAllJobsAreToldAndNothingIsWritten) {
+    QJsonObject doc = parse(exportAll());
+    QJsonArray jobs = doc[QStringLiteral("auftraege")].toArray();
+    QJsonObject first = jobs[0].toObject();
+    first[QStringLiteral("mandKanz")] = 0;
+    jobs[0] = first;
+    QJsonObject last = jobs[13].toObject();
+    last.remove(QStringLiteral("einzelLog"));
+    jobs[13] = last;
+    doc[QStringLiteral("auftraege")] = jobs;
+    const ImportResult r = importJobs(connection(), bytesOf(doc), 1);
+    EXPECT_FALSE(r.written);
+    EXPECT_EQ(r.problems,
+              (QStringList{QStringLiteral("Auftrag \"Kunden Bäckerei Huber\": \"mandKanz\" muss "
+                                          "zwischen 1 und 5 liegen, nicht 0."),
+                           QStringLiteral("Auftrag \"Kunden Kanzlei Neumann\": \"einzelLog\" "
+                                          "fehlt.")}));
+    EXPECT_EQ(importReport(r).section(QLatin1Char('\n'), 0, 0),
+              QStringLiteral("Es wurde kein Auftrag importiert:"));
+    EXPECT_EQ(jobCount(), QStringLiteral("14"));
+}
