@@ -1,22 +1,15 @@
 #include "ui/windows/frmBuchLog.h"
 
+#include "ui/ControlDeclaration.h"
+
 using contract::fire;
 using contract::is;
 
 namespace {
 
-constexpr int kOeffnen = 1;
+using declare::control;
 
-ControlDecl control(const char* name, int index, ControlKind kind, const char* caption = "",
-                    const char* hint = "") {
-    ControlDecl c;
-    c.name = QString::fromUtf8(name);
-    c.index = index;
-    c.kind = kind;
-    c.caption = QString::fromUtf8(caption);
-    c.hint = QString::fromUtf8(hint);
-    return c;
-}
+constexpr int kOeffnen = 1;
 
 WindowDecl makeDeclaration() {
     WindowDecl d;

@@ -1,17 +1,12 @@
 #include "ui/windows/frmBuchLogAbfrage.h"
 
+#include "ui/ControlDeclaration.h"
+
 using contract::is;
 
 namespace {
 
-ControlDecl control(const char* name, int index, ControlKind kind, const char* caption = "") {
-    ControlDecl c;
-    c.name = QString::fromUtf8(name);
-    c.index = index;
-    c.kind = kind;
-    c.caption = QString::fromUtf8(caption);
-    return c;
-}
+using declare::control;
 
 WindowDecl makeDeclaration() {
     WindowDecl d;

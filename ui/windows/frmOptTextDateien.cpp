@@ -1,19 +1,12 @@
 #include "ui/windows/frmOptTextDateien.h"
 
+#include "ui/ControlDeclaration.h"
+
 using contract::is;
 
 namespace {
 
-ControlDecl control(const char* name, int index, ControlKind kind, const char* caption = "",
-                    const char* hint = "") {
-    ControlDecl c;
-    c.name = QString::fromUtf8(name);
-    c.index = index;
-    c.kind = kind;
-    c.caption = QString::fromUtf8(caption);
-    c.hint = QString::fromUtf8(hint);
-    return c;
-}
+using declare::control;
 
 WindowDecl makeDeclaration() {
     WindowDecl d;

@@ -1,18 +1,13 @@
 #include "ui/windows/frmVerlaufFilter.h"
 
+#include "ui/ControlDeclaration.h"
+
 using contract::fire;
 using contract::is;
 
 namespace {
 
-ControlDecl control(const char* name, int index, ControlKind kind, const char* caption) {
-    ControlDecl c;
-    c.name = QString::fromUtf8(name);
-    c.index = index;
-    c.kind = kind;
-    c.caption = QString::fromUtf8(caption);
-    return c;
-}
+using declare::control;
 
 WindowDecl makeDeclaration() {
     WindowDecl d;
