@@ -60,12 +60,16 @@ class PictureTarget {
     virtual void setToolPicture(const QString& tool, long pictureId) = 0;
 };
 
+// The suite's picture every window of the system gets as its icon, after it has been filled
+// and before it is shown.
+inline constexpr long kFensterSymbol = 1000;
+
 class CoreTexteClass {
   public:
     virtual ~CoreTexteClass() = default;
     // A numbered text of the suite's text table; empty when there is none.
     virtual QString GetText(const QVariant& textId) = 0;
-    // Gives a window its icon from the suite's pictures.
+    // Gives a window its icon from the suite's pictures (kFensterSymbol for every window).
     virtual void SetFormIcon(PictureTarget& window, long pictureId) = 0;
     // Sets the pictures of a bar's tools in one call.
     virtual void GetBilder(PictureTarget& bar, const QList<QPair<QString, long>>& tools) = 0;

@@ -11,6 +11,7 @@ constexpr long YesNo = 4;
 constexpr long YesNoCancelQuestion = 35;
 constexpr long YesNoQuestion = 36;
 constexpr long Information = 64;
+constexpr long Warning = 48;
 constexpr long Critical = 16;
 }  // namespace MsgStyle
 

@@ -16,7 +16,6 @@
 
 namespace {
 
-constexpr long kFensterSymbol = 1000;
 constexpr long kDateiNichtGefunden = 53;
 constexpr int kNameSpalte = 0;
 

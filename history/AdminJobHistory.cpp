@@ -4,6 +4,7 @@
 #include "app/Required.h"
 #include "app/cAdminJob.h"
 #include "common/ErrorExit.h"
+#include "common/MessageBox.h"
 #include "common/ModuleHelpers.h"
 #include "history/HistoryTexts.h"
 #include "jobs/JobTypes.h"
@@ -13,10 +14,7 @@
 
 namespace {
 
-constexpr long kFensterSymbol = 1000;
 constexpr int kTextKesto = 1236;
-constexpr long kJaNein = 4;
-constexpr long kJa = 6;
 
 namespace Spalte {
 constexpr int kId = 0;
@@ -255,7 +253,7 @@ void cAdminJob::mofrmVerlauf_evFrmVerlaufCMDButtonClicked(int Index) {
                     break;
                 case Knopf::kLoeschen:
                     if (mlMsgBox(QStringLiteral("Gesamten Verlauf zu diesem Auftrag löschen?"),
-                                 kJaNein, msGetTitel()) == kJa) {
+                                 MsgStyle::YesNo, msGetTitel()) == MsgAnswer::Yes) {
                         mloescheVerlauf();
                     }
                     break;

@@ -8,7 +8,6 @@
 
 namespace {
 
-constexpr long kFensterSymbol = 1000;
 constexpr int kTextKesto = 1236;
 constexpr long kHoechsterZeitWert = 365;
 

@@ -11,7 +11,6 @@
 
 namespace {
 
-constexpr long kFensterSymbol = 1000;
 constexpr int kTextTitel = 1001;
 constexpr long kPfadNichtGefunden = 76;
 

@@ -18,7 +18,6 @@ namespace {
 constexpr int kCmdUebernehmen = 7;
 constexpr int kTabAllgemein = 0;
 constexpr int kTabZeitplaene = 1;
-constexpr long kFensterSymbol = 1000;
 const QString kBand = QStringLiteral("barMain");
 
 // The pictures of the bar's tools, by tool name.

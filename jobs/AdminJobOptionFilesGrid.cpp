@@ -17,7 +17,6 @@
 namespace {
 
 constexpr std::uint8_t kMandKanzEinzeln = 2;
-constexpr long kFormIcon = 1000;
 constexpr int kBreiteTabelle = 2000;
 
 enum Spalte { kTabelle = 0, kTextdatei = 1, kPfad = 2, kNamensAnfang = 3, kErweiterung = 4 };
@@ -26,7 +25,7 @@ const QChar kPaarTrenner = QLatin1Char('?');
 
 void setFormIcon(WindowContract& form) {
     if (auto& texte = services().coreTexte) {
-        texte->SetFormIcon(form.window(), kFormIcon);
+        texte->SetFormIcon(form.window(), kFensterSymbol);
     }
 }
 

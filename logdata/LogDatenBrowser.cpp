@@ -10,7 +10,6 @@
 
 namespace {
 
-constexpr long kFensterSymbol = 1000;
 constexpr int kTextTitelKopf = 1001;
 
 // Shown only where a kind isn't its own: the service's source in the job log and the job's

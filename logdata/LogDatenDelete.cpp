@@ -11,9 +11,7 @@
 
 namespace {
 
-constexpr long kFensterSymbol = 1000;
 constexpr int kTextTitelKopf = 1001;
-constexpr long kStilWarnung = 48;
 // Yes and No with the question's picture, as the window has always asked.
 constexpr long kStilFrage = 68;
 
@@ -102,7 +100,7 @@ bool cLogDaten::mbLogDatenLoeschen() {
         // the Bis, so that nothing is deleted without an end on either side.
         if (!von || !bis || !von->isValid() || !bis->isValid() || *von > *bis) {
             mlMsgBox(QStringLiteral("Von/Bis Datum ungültig. Bitte überprüfen Sie die Eingaben."),
-                     kStilWarnung, sTitel);
+                     MsgStyle::Warning, sTitel);
             return false;
         }
         // The fields hold dates only; the start of the day is the Von as a date without time.

@@ -13,8 +13,6 @@
 
 namespace {
 
-constexpr long kFensterSymbol = 1000;
-
 const QList<QPair<QString, long>>& werkzeugBilder() {
     static const QList<QPair<QString, long>> bilder{{QStringLiteral("first"), 1185},
                                                     {QStringLiteral("previous"), 1183},

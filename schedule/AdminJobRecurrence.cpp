@@ -11,7 +11,6 @@
 
 namespace {
 
-constexpr long kFensterSymbol = 1000;
 using namespace ZeitintervallBereich;
 
 const QString kCaption = QStringLiteral("Zeitplan für wiederkehrende Aufträge bearbeiten");

@@ -12,7 +12,6 @@
 
 namespace {
 
-constexpr long kFensterSymbol = 1000;
 // Pure red, 0xBBGGRR.
 constexpr long kFarbeKeineAuswahl = 255;
 constexpr std::uint8_t kUeberschreiben = 1;

@@ -16,7 +16,6 @@
 
 namespace {
 
-constexpr long kFensterSymbol = 1000;
 constexpr int kEinmal = 2;
 constexpr int kWiederholt = 3;
 
