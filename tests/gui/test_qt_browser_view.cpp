@@ -10,6 +10,7 @@
 #include "common/Clock.h"
 #include "gui/QtBrowser.h"
 #include "suite/Database.h"
+#include "tests/headless/BrowserTestDatabase.h"
 #include "ui/windows/frmPakete.h"
 
 using namespace qt_test;
@@ -21,27 +22,8 @@ const QString kQuery = QStringLiteral("SELECT * FROM vEintrag WHERE (vEintrag.Ty
 // The Qt browser over 100,000 entries: it shows them all but reads only what is in sight.
 class QtBrowserViewTest : public ::testing::Test {
   protected:
-    static std::shared_ptr<Database> makeDatabase() {
-        auto db = Database::open(QStringLiteral(":memory:"),
-                                 std::make_shared<FixedClock>(QDateTime(QDate(2026, 11, 22), {})));
-        db->applySchema();
-        db->runScript(QStringLiteral(
-            "CREATE TABLE tEintrag (Id INTEGER PRIMARY KEY, Datum DATETIME, Typ INTEGER, "
-            "  Wert INTEGER, Text TEXT);"
-            "CREATE INDEX ixEintragDatum ON tEintrag (Datum);"
-            "CREATE VIEW vEintrag AS SELECT Id, Typ, Datum AS [Datum/Uhrzeit], Wert, "
-            "  COALESCE(Text, '') AS Text FROM tEintrag;"
-            "WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < 100000) "
-            "INSERT INTO tEintrag SELECT i, "
-            "  datetime(1609459200 + ((i * 7919) % 50000) * 600, 'unixepoch'), "
-            "  1 + i % 3, (i * 31) % 1000, 'Eintrag ' || (i % 977) FROM n;"));
-        return db;
-    }
-    static Services world(const std::shared_ptr<Database>& db) {
-        Services s;
-        s.newRecordset = db->recordsetFactory();
-        return s;
-    }
+    static std::shared_ptr<Database> makeDatabase() { return makeBrowserTestDatabase(); }
+    static Services world(const std::shared_ptr<Database>& db) { return browserTestWorld(db); }
 
     QtBrowserViewTest() {
         w.show();

@@ -9,6 +9,7 @@
 #include "common/ErrObject.h"
 #include "common/Services.h"
 #include "suite/Database.h"
+#include "tests/headless/BrowserTestDatabase.h"
 #include "tests/headless/HeadlessTestKit.h"
 #include "ui/windows/frmPakete.h"
 
@@ -18,33 +19,11 @@ namespace {
 
 const QString kQuery = QStringLiteral("SELECT * FROM vEintrag WHERE (vEintrag.Typ IN (1, 3))");
 
-// A log of 100,000 entries whose dates are not in the order of their ids, with repeated
-// dates, NULL texts and a nullable number, behind a view like the log viewer's.
+// The in-memory browser over the log of 100,000 entries.
 class BrowserViewTest : public ::testing::Test {
   protected:
-    static std::shared_ptr<Database> makeDatabase() {
-        auto db = Database::open(
-            QStringLiteral(":memory:"),
-            std::make_shared<FixedClock>(QDateTime(QDate(2026, 11, 22), QTime(10, 0))));
-        db->applySchema();
-        db->runScript(QStringLiteral(
-            "CREATE TABLE tEintrag (Id INTEGER PRIMARY KEY, Datum DATETIME, Typ INTEGER, "
-            "  Wert INTEGER, Text TEXT);"
-            "CREATE INDEX ixEintragDatum ON tEintrag (Datum);"
-            "CREATE VIEW vEintrag AS SELECT Id, Typ, Datum AS [Datum/Uhrzeit], Wert, "
-            "  COALESCE(Text, '') AS Text, Text AS Roh FROM tEintrag;"
-            "WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < 100000) "
-            "INSERT INTO tEintrag SELECT i, "
-            "  datetime(1609459200 + ((i * 7919) % 50000) * 600, 'unixepoch'), "
-            "  1 + i % 3, CASE WHEN i % 13 = 0 THEN NULL ELSE (i * 31) % 1000 END, "
-            "  CASE WHEN i % 17 = 0 THEN NULL ELSE 'Eintrag ' || (i % 977) END FROM n;"));
-        return db;
-    }
-    static Services world(const std::shared_ptr<Database>& db) {
-        Services s;
-        s.newRecordset = db->recordsetFactory();
-        return s;
-    }
+    static std::shared_ptr<Database> makeDatabase() { return makeBrowserTestDatabase(); }
+    static Services world(const std::shared_ptr<Database>& db) { return browserTestWorld(db); }
 
     // The rows of a plain query, each as its values.
     QList<QVariantList> plain(const QString& sql) {
