@@ -15,10 +15,12 @@
 
 #include <sys/stat.h>
 
+#include "suite/DatabaseRecordset.h"
+#include "suite/PostgresBackend.h"
 #include "suite/SchemaUpgrade.h"
 #include "suite/SqlErrors.h"
 #include "suite/SqlFunctions.h"
-#include "suite/SqliteRecordset.h"
+#include "suite/SqliteBackend.h"
 
 namespace {
 
@@ -27,50 +29,13 @@ QString nextConnectionName() {
     return QStringLiteral("ajv-database-%1").arg(++counter);
 }
 
-sqlite3* sqliteHandle(const QSqlDatabase& db) {
-    const QVariant handle = db.driver()->handle();
-    if (handle.isValid() && qstrcmp(handle.typeName(), "sqlite3*") == 0) {
-        return *static_cast<sqlite3* const*>(handle.constData());
-    }
-    return nullptr;
-}
-
 QSqlDatabase connectionOf(const QString& name) {
     return QSqlDatabase::database(name, false);
-}
-
-RaisedError sqliteFailure(sqlite3* db, const QString& statement) {
-    return SqlErrors::raised(
-        sqlite3_errcode(db) & 0xff,
-        QString::fromUtf8(sqlite3_errmsg(db)) + QStringLiteral("\r\n") + statement.trimmed());
 }
 
 void execute(sqlite3* db, const char* sql) {
     if (sqlite3_exec(db, sql, nullptr, nullptr, nullptr) != SQLITE_OK) {
         throw sqliteFailure(db, QString::fromUtf8(sql));
-    }
-}
-
-// Runs the statements of a script one after the other, so that a failure names its statement.
-void runStatements(sqlite3* db, const QByteArray& script) {
-    const char* tail = script.constData();
-    while (*tail != '\0') {
-        const char* start = tail;
-        sqlite3_stmt* statement = nullptr;
-        if (sqlite3_prepare_v2(db, start, -1, &statement, &tail) != SQLITE_OK) {
-            throw sqliteFailure(db, QString::fromUtf8(start).left(200));
-        }
-        if (statement == nullptr) {
-            continue;  // blanks or comments only
-        }
-        int rc = SQLITE_ROW;
-        while (rc == SQLITE_ROW) {
-            rc = sqlite3_step(statement);
-        }
-        sqlite3_finalize(statement);
-        if (rc != SQLITE_DONE) {
-            throw sqliteFailure(db, QString::fromUtf8(start, static_cast<int>(tail - start)));
-        }
     }
 }
 
@@ -105,16 +70,28 @@ std::shared_ptr<Database> Database::open(const QString& path, std::shared_ptr<IC
     }
     // Owned from here on, so that the destructor removes the connection on any failure below.
     std::shared_ptr<Database> database(new Database(path, nextConnectionName(), clock));
-    QSqlDatabase db =
-        QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), database->connectionName_);
+    if (PostgresAddress::isAddress(path)) {
+        database->onServer_ = true;
+        database->backend_ = std::make_unique<PostgresBackend>();
+        PostgresBackend::connect(database->connectionName_, PostgresAddress::parse(path),
+                                 busyTimeoutMs);
+    } else {
+        database->backend_ = std::make_unique<SqliteBackend>();
+        database->openSqlite(busyTimeoutMs);
+    }
+    return database;
+}
+
+void Database::openSqlite(int busyTimeoutMs) {
+    QSqlDatabase db = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), connectionName_);
     if (!db.isValid()) {
         throw SqlErrors::raised(ErrNumber::Database,
                                 QStringLiteral("Der Datenbanktreiber QSQLITE fehlt."));
     }
-    db.setDatabaseName(path);
+    db.setDatabaseName(path_);
     db.setConnectOptions(QStringLiteral("QSQLITE_BUSY_TIMEOUT=%1").arg(busyTimeoutMs));
     if (!db.open()) {
-        throw SqlErrors::fromDriver(db.lastError(), path);
+        throw SqlErrors::fromDriver(db.lastError(), path_);
     }
     sqlite3* handle = sqliteHandle(db);
     if (handle == nullptr) {
@@ -126,37 +103,33 @@ std::shared_ptr<Database> Database::open(const QString& path, std::shared_ptr<IC
         throw SqlErrors::raised(SQLITE_READONLY,
                                 QStringLiteral("attempt to write a readonly database"));
     }
-    if (!path.isEmpty() && path != u":memory:") {
+    if (!path_.isEmpty() && path_ != u":memory:") {
         // The agent service writes while the window reads.
         execute(handle, "PRAGMA journal_mode=WAL");
         execute(handle, "PRAGMA synchronous=NORMAL");
     }
     struct stat info {};
-    if (!path.isEmpty() && path != u":memory:" && ::stat(QFile::encodeName(path), &info) == 0) {
-        database->device_ = info.st_dev;
-        database->inode_ = info.st_ino;
+    if (!path_.isEmpty() && path_ != u":memory:" && ::stat(QFile::encodeName(path_), &info) == 0) {
+        device_ = info.st_dev;
+        inode_ = info.st_ino;
     }
-    if (registerServerFunctions(handle, database->clock_.get()) != SQLITE_OK) {
+    if (registerServerFunctions(handle, clock_.get()) != SQLITE_OK) {
         throw sqliteFailure(handle, QStringLiteral("getdate, datediff, len"));
     }
-    return database;
 }
 
 bool Database::isEmpty() const {
-    QSqlQuery query(connectionOf(connectionName_));
-    const QString sql = QStringLiteral(
-        "SELECT count(*) FROM sqlite_master WHERE type = 'table' AND name NOT LIKE 'sqlite%'");
-    if (!query.exec(sql) || !query.next()) {
-        throw SqlErrors::fromDriver(query.lastError(), sql);
-    }
-    return query.value(0).toLongLong() == 0;
+    return backend_->isEmpty(connectionOf(connectionName_));
 }
 
 void Database::applySchema() {
-    runScript(resourceText(QStringLiteral(":/db/schema.sql")));
+    backend_->applySchema(connectionOf(connectionName_), resourceText(backend_->schemaResource()));
 }
 
 void Database::upgradeSchema() {
+    if (onServer_) {
+        return;  // the first version of the server's schema
+    }
     sqlite3* db = sqliteHandle(connectionOf(connectionName_));
     if (db == nullptr) {
         throw SqlErrors::noConnection();
@@ -190,27 +163,7 @@ QStringList Database::applyDemoData(const QString& folder) {
 }
 
 void Database::runScript(const QString& script) {
-    sqlite3* db = sqliteHandle(connectionOf(connectionName_));
-    if (db == nullptr) {
-        throw SqlErrors::noConnection();
-    }
-    // One transaction for the whole script: it applies completely or not at all. A script
-    // therefore holds no transaction statements of its own.
-    const bool ownTransaction = sqlite3_get_autocommit(db) != 0;
-    if (ownTransaction) {
-        execute(db, "BEGIN");
-    }
-    try {
-        runStatements(db, script.toUtf8());
-    } catch (...) {
-        if (ownTransaction) {
-            sqlite3_exec(db, "ROLLBACK", nullptr, nullptr, nullptr);
-        }
-        throw;
-    }
-    if (ownTransaction) {
-        execute(db, "COMMIT");
-    }
+    backend_->runScript(connectionOf(connectionName_), script);
 }
 
 void Database::checkStillThere() const {
@@ -231,6 +184,6 @@ void Database::checkStillThere() const {
 
 Services::Factory<CRecordset> Database::recordsetFactory() {
     return [database = weak_from_this()]() -> std::unique_ptr<CRecordset> {
-        return std::make_unique<SqliteRecordset>(database);
+        return std::make_unique<DatabaseRecordset>(database);
     };
 }

@@ -6,13 +6,17 @@
 #include "common/Clock.h"
 #include "common/Services.h"
 
-// The suite's database: one SQLite connection in WAL mode with a busy timeout, with the
-// server's functions (getdate, datediff, ...) registered on it. Record sets made by
-// recordsetFactory() all work on this connection.
+class SqlBackend;
+
+// The suite's database, one connection: an SQLite file in WAL mode with a busy timeout and the
+// server's functions (getdate, datediff, ...) registered on it, or a PostgreSQL database on a
+// server, whose schema brings those functions. Record sets made by recordsetFactory() all work
+// on this connection.
 class Database : public std::enable_shared_from_this<Database> {
   public:
     // Opens the file, creating it when missing; ":memory:" gives a private in-memory
-    // database. getdate() answers from the clock. A statement that finds the file locked by
+    // database; a `postgresql://` address (PostgresAddress.h) a database on a server.
+    // getdate() answers from the clock. A statement that finds the file locked by
     // another writer waits up to busyTimeoutMs before it fails. Throws RaisedError on failure,
     // also when the file can only be read.
     static constexpr int kDefaultBusyTimeoutMs = 5000;
@@ -25,11 +29,15 @@ class Database : public std::enable_shared_from_this<Database> {
 
     const QString& connectionName() const { return connectionName_; }
     const QString& path() const { return path_; }
+    // True for a database on a PostgreSQL server.
+    bool onServer() const { return onServer_; }
+    SqlBackend& backend() const { return *backend_; }
     IClock& clock() const { return *clock_; }
 
     // True when the database holds no table yet.
     bool isEmpty() const;
-    // Runs the embedded db/schema.sql, then (applyDemoData) db/demo.sql. Throws on failure.
+    // Runs the embedded schema (db/schema.sql, on a server db/schema.postgresql.sql), then
+    // (applyDemoData) db/demo.sql. Throws on failure.
     void applySchema();
     // A database of an earlier version gets what this schema has more: missing tables,
     // indexes and views, and views that read otherwise. Its rows stay as they are.
@@ -48,10 +56,13 @@ class Database : public std::enable_shared_from_this<Database> {
 
   private:
     Database(QString path, QString connectionName, std::shared_ptr<IClock> clock);
+    void openSqlite(int busyTimeoutMs);
 
     QString path_;
     QString connectionName_;
     std::shared_ptr<IClock> clock_;
+    std::unique_ptr<SqlBackend> backend_;
+    bool onServer_ = false;
     // Device and inode of the opened file; both 0 for a database without a file.
     quint64 device_ = 0;
     quint64 inode_ = 0;

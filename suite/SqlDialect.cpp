@@ -161,21 +161,26 @@ QString startLiteral(const QDateTime& start) {
            u'\'';
 }
 
-QString translateTokens(const Tokens& tokens, const std::optional<QDateTime>& now);
+QString translateTokens(const Tokens& tokens, const std::optional<QDateTime>& now, Target target);
 
 }  // namespace
 
 QString translate(const QString& serverSql) {
-    return translateTokens(firstStatement(serverSql), std::nullopt);
+    return translateTokens(firstStatement(serverSql), std::nullopt, Target::Sqlite);
 }
 
 QString translate(const QString& serverSql, const QDateTime& now) {
-    return translateTokens(firstStatement(serverSql), now);
+    return translateTokens(firstStatement(serverSql), now, Target::Sqlite);
+}
+
+QString translate(const QString& serverSql, const QDateTime& now, Target target) {
+    return translateTokens(firstStatement(serverSql), now, target);
 }
 
 namespace {
 
-QString translateTokens(const Tokens& tokens, const std::optional<QDateTime>& now) {
+QString translateTokens(const Tokens& tokens, const std::optional<QDateTime>& now, Target target) {
+    const bool postgres = target == Target::Postgres;
     QList<QString> pieces;
     for (const SqlToken& t : tokens) {
         pieces.append(t.text);
@@ -251,7 +256,21 @@ QString translateTokens(const Tokens& tokens, const std::optional<QDateTime>& no
                 }
             }
         } else if (t.isWord(u"isnull") && isPunctAt(tokens, next, u'(')) {
-            pieces[i] = QStringLiteral("ifnull");
+            pieces[i] = postgres ? QStringLiteral("coalesce") : QStringLiteral("ifnull");
+        } else if (postgres && t.kind == SqlTokenKind::QuotedName) {
+            pieces[i] =
+                u'"' + unquotedName(t).toLower().replace(u'"', QStringLiteral("\"\"")) + u'"';
+        } else if (postgres && now && t.isWord(u"getdate") && isPunctAt(tokens, next, u'(') &&
+                   isPunctAt(tokens, nextSignificant(tokens, next), u')')) {
+            const qsizetype close = nextSignificant(tokens, next);
+            pieces[i] = QStringLiteral("timestamp '") +
+                        now->toString(QStringLiteral("yyyy-MM-dd HH:mm:ss")) + u'\'';
+            for (qsizetype k = i + 1; k <= close; ++k) {
+                pieces[k].clear();
+            }
+            lastSignificant = i;
+            i = close;
+            continue;
         } else if (t.isWord(u"n") && i + 1 < tokens.size() &&
                    tokens[i + 1].kind == SqlTokenKind::String) {
             pieces[i].clear();

@@ -7,6 +7,9 @@
 // The server's SQL dialect, as the system writes its statements, read by SQLite.
 namespace SqlDialect {
 
+// The database a statement is translated for.
+enum class Target { Sqlite, Postgres };
+
 // Translates one statement for SQLite: `select [distinct] top n` becomes a LIMIT, the `dbo.`
 // prefix goes, the unit of datediff becomes a text ('day', 'week', ...), isnull becomes
 // ifnull and N'...' a plain literal. getdate(), datediff and len are functions of the
@@ -21,6 +24,11 @@ QString translate(const QString& serverSql);
 // standing alone between AND, OR, WHERE, ON or brackets is rewritten; every other datediff
 // stays a function call.
 QString translate(const QString& serverSql, const QDateTime& now);
+// For PostgreSQL, on top of the above: a bracketed or quoted name becomes a quoted name in lower
+// case (the schema's names are all folded to lower case), isnull becomes coalesce, and
+// getdate() becomes the moment now as a timestamp literal, so that the program's clock holds
+// on the server too. getdate, datediff and len are functions of the schema there.
+QString translate(const QString& serverSql, const QDateTime& now, Target target);
 
 // A select that reads from exactly one table or view by name, with no join, union, grouping
 // or distinct, so that every row of its result is one row of that table.

@@ -1,4 +1,4 @@
-#include "suite/SqliteRecordset.h"
+#include "suite/DatabaseRecordset.h"
 
 #include <QLocale>
 #include <QSqlError>
@@ -14,65 +14,7 @@
 
 namespace {
 
-const QString rowidColumn = QStringLiteral("_ajv_rowid_");
-
-QString quotedName(const QString& name) {
-    return u'"' + QString(name).replace(u'"', QStringLiteral("\"\"")) + u'"';
-}
-
-// Runs one SQLite statement; `shown` is the statement as the caller wrote it, for the error.
-QSqlQuery run(const QSqlDatabase& db, const QString& sql, const QVariantList& values,
-              const QString& shown) {
-    QSqlQuery query(db);
-    query.setForwardOnly(true);
-    bool ok = false;
-    if (values.isEmpty()) {
-        ok = query.exec(sql);
-    } else {
-        ok = query.prepare(sql);
-        for (const QVariant& v : values) {
-            query.addBindValue(v);
-        }
-        ok = ok && query.exec();
-    }
-    if (!ok) {
-        throw SqlErrors::fromDriver(query.lastError(), shown);
-    }
-    return query;
-}
-
-// The name of a table of the database, empty for a view or anything else.
-QString baseTable(const QSqlDatabase& db, const QString& name, const QString& shown) {
-    QSqlQuery query =
-        run(db, QStringLiteral("SELECT type FROM sqlite_master WHERE lower(name) = lower(?)"),
-            {name}, shown);
-    return query.next() && query.value(0).toString() == u"table" ? name : QString();
-}
-
-struct TableInfo {
-    QHash<QString, bool> columns;  // lower-case name -> is a date column
-    QString identity;              // the INTEGER PRIMARY KEY, lower case
-};
-
-TableInfo tableInfo(const QSqlDatabase& db, const QString& table, const QString& shown) {
-    TableInfo info;
-    QSqlQuery query =
-        run(db, QStringLiteral("PRAGMA table_info(%1)").arg(quotedName(table)), {}, shown);
-    int keys = 0;
-    while (query.next()) {
-        const QString name = query.value(1).toString().toLower();
-        const QString type = query.value(2).toString().toUpper();
-        info.columns.insert(name, type.contains(u"DATE") || type.contains(u"TIME"));
-        if (query.value(5).toInt() > 0) {
-            ++keys;
-            info.identity = type == u"INTEGER" ? name : QString();
-        }
-    }
-    if (keys != 1) {
-        info.identity.clear();
-    }
-    return info;
-}
+const QString locatorPrefix = QStringLiteral("_ajv_locator_");
 
 QVariant dateValue(const QDateTime& date) {
     return date.isValid() ? QVariant(storedDateText(date)) : QVariant();
@@ -80,14 +22,14 @@ QVariant dateValue(const QDateTime& date) {
 
 }  // namespace
 
-SqliteRecordset::SqliteRecordset(std::weak_ptr<Database> database)
+DatabaseRecordset::DatabaseRecordset(std::weak_ptr<Database> database)
     : database_(std::move(database)) {}
 
-SqliteRecordset::~SqliteRecordset() {
+DatabaseRecordset::~DatabaseRecordset() {
     Close();
 }
 
-QSqlDatabase SqliteRecordset::connection() const {
+QSqlDatabase DatabaseRecordset::connection() const {
     const std::shared_ptr<Database> db = database_.lock();
     if (!db) {
         throw SqlErrors::noConnection();
@@ -95,45 +37,63 @@ QSqlDatabase SqliteRecordset::connection() const {
     return QSqlDatabase::database(db->connectionName(), false);
 }
 
-QString SqliteRecordset::translated(const QString& sql) const {
+SqlBackend& DatabaseRecordset::backend() const {
+    const std::shared_ptr<Database> db = database_.lock();
+    if (!db) {
+        throw SqlErrors::noConnection();
+    }
+    return db->backend();
+}
+
+QString DatabaseRecordset::translated(const QString& sql) const {
     // getdate() of the period condition is fixed once for the statement, so that its index
     // can serve it.
     const std::shared_ptr<Database> db = database_.lock();
-    return db ? SqlDialect::translate(sql, db->clock().now()) : SqlDialect::translate(sql);
+    return db ? db->backend().translate(sql, db->clock().now()) : SqlDialect::translate(sql);
 }
 
-void SqliteRecordset::Connect() {
+void DatabaseRecordset::Connect() {
     connection();
     database_.lock()->checkStillThere();
 }
 
-void SqliteRecordset::Disconnect() {}
+void DatabaseRecordset::Disconnect() {}
 
-long SqliteRecordset::OpenQuery(const QString& sql, long lockMode) {
+long DatabaseRecordset::OpenQuery(const QString& sql, long lockMode) {
     Close();
     QString statement = translated(sql);
     const QSqlDatabase db = connection();
+    SqlBackend& server = backend();
 
     const auto source = SqlDialect::singleSource(statement);
-    const QString table = source && lockMode != 0 ? baseTable(db, source->name, sql) : QString();
-    TableInfo info;
-    if (!table.isEmpty()) {
-        info = tableInfo(db, table, sql);
-        statement.insert(source->columnsAt, QStringLiteral(" _rowid_ AS ") + rowidColumn + u',');
+    std::optional<SqlTable> table =
+        source && lockMode != 0 ? server.table(db, source->name, sql) : std::nullopt;
+    const int first = table ? static_cast<int>(table->locator.size()) : 0;
+    if (table) {
+        QString locator;
+        for (int k = 0; k < first; ++k) {
+            locator += u' ' + table->locator[k] + QStringLiteral(" AS ") + locatorPrefix +
+                       QString::number(k) + u',';
+        }
+        statement.insert(source->columnsAt, locator);
     }
 
-    QSqlQuery query = run(db, statement, {}, sql);
+    QSqlQuery query = runSql(server, db, statement, {}, sql);
     const QSqlRecord record = query.record();
-    const int first = table.isEmpty() ? 0 : 1;
-    tableColumns_ = info.columns;
+    table_ = table;
     for (int i = first; i < record.count(); ++i) {
         addColumn(record.fieldName(i));
     }
+    for (qsizetype c = 0; c < columns_.size(); ++c) {
+        columns_[c].name = server.columnName(columns_[c].stored, sql);
+    }
     while (query.next()) {
         Row row;
-        row.rowid = first ? query.value(0).toLongLong() : 0;
+        for (int i = 0; i < first; ++i) {
+            row.locator.append(query.value(i));
+        }
         for (int i = first; i < record.count(); ++i) {
-            row.values.append(query.value(i));
+            row.values.append(server.value(query.value(i)));
         }
         row.written.fill(false, row.values.size());
         rows_.append(row);
@@ -141,18 +101,14 @@ long SqliteRecordset::OpenQuery(const QString& sql, long lockMode) {
     open_ = true;
     sql_ = sql;
     lockMode_ = lockMode;
-    table_ = table;
-    identity_ = info.identity;
     current_ = 0;
     return static_cast<long>(rows_.size());
 }
 
-void SqliteRecordset::Close() {
+void DatabaseRecordset::Close() {
     open_ = false;
     sql_.clear();
-    table_.clear();
-    identity_.clear();
-    tableColumns_.clear();
+    table_.reset();
     columns_.clear();
     index_.clear();
     spelled_.clear();
@@ -160,9 +116,9 @@ void SqliteRecordset::Close() {
     current_ = 0;
 }
 
-qsizetype SqliteRecordset::addColumn(const QString& name) {
-    const QString key = name.toLower();
-    columns_.append(Column{name, tableColumns_.value(key, false)});
+qsizetype DatabaseRecordset::addColumn(const QString& stored) {
+    const QString key = stored.toLower();
+    columns_.append(Column{stored, stored, table_ && table_->columns.value(key, false)});
     // The first of two equal names wins, as in the suite's record object.
     index_.insert(key, index_.value(key, columns_.size() - 1));
     spelled_.clear();
@@ -173,20 +129,20 @@ qsizetype SqliteRecordset::addColumn(const QString& name) {
     return columns_.size() - 1;
 }
 
-void SqliteRecordset::requireOpen() const {
+void DatabaseRecordset::requireOpen() const {
     if (!open_) {
         throw SqlErrors::objectClosed();
     }
 }
 
-void SqliteRecordset::requireUpdatable() const {
+void DatabaseRecordset::requireUpdatable() const {
     requireOpen();
-    if (table_.isEmpty()) {
+    if (!table_) {
         throw SqlErrors::notUpdatable(sql_);
     }
 }
 
-qsizetype SqliteRecordset::fieldIndex(const QString& field) const {
+qsizetype DatabaseRecordset::fieldIndex(const QString& field) const {
     requireOpen();
     if (const auto known = spelled_.constFind(field); known != spelled_.constEnd()) {
         return *known;
@@ -199,7 +155,7 @@ qsizetype SqliteRecordset::fieldIndex(const QString& field) const {
     return *it;
 }
 
-SqliteRecordset::Row& SqliteRecordset::currentRow() {
+DatabaseRecordset::Row& DatabaseRecordset::currentRow() {
     requireOpen();
     if (current_ < 0 || current_ >= rows_.size() || rows_[current_].deleted) {
         throw SqlErrors::noCurrentRecord();
@@ -207,17 +163,17 @@ SqliteRecordset::Row& SqliteRecordset::currentRow() {
     return rows_[current_];
 }
 
-bool SqliteRecordset::pending(const Row& row) const {
+bool DatabaseRecordset::pending(const Row& row) const {
     return !row.deleted && (row.isNew || row.written.contains(true));
 }
 
-void SqliteRecordset::savePending() {
-    if (!table_.isEmpty() && current_ >= 0 && current_ < rows_.size() && pending(rows_[current_])) {
+void DatabaseRecordset::savePending() {
+    if (table_ && current_ >= 0 && current_ < rows_.size() && pending(rows_[current_])) {
         Update(UpdateWrite);
     }
 }
 
-void SqliteRecordset::AddNew() {
+void DatabaseRecordset::AddNew() {
     requireUpdatable();
     savePending();
     Row row;
@@ -228,7 +184,7 @@ void SqliteRecordset::AddNew() {
     current_ = rows_.size() - 1;
 }
 
-void SqliteRecordset::Update(long mode, bool) {
+void DatabaseRecordset::Update(long mode, bool) {
     if (mode != UpdateWrite && mode != UpdateDelete) {
         throw SqlErrors::invalidArgument(QStringLiteral("Update"), mode);
     }
@@ -236,9 +192,10 @@ void SqliteRecordset::Update(long mode, bool) {
     Row& row = currentRow();
     if (mode == UpdateDelete) {
         if (!row.isNew) {
-            run(connection(),
-                QStringLiteral("DELETE FROM %1 WHERE _rowid_ = ?").arg(quotedName(table_)),
-                {row.rowid}, sql_);
+            const QString remove =
+                QStringLiteral("DELETE FROM %1 WHERE %2")
+                    .arg(backend().quotedName(table_->name), locatorCondition(*table_));
+            runSql(backend(), connection(), remove, row.locator, sql_);
         }
         row.deleted = true;
         return;
@@ -255,69 +212,59 @@ void SqliteRecordset::Update(long mode, bool) {
     reloadRow(row);
 }
 
-void SqliteRecordset::insertRow(Row& row) {
+void DatabaseRecordset::insertRow(Row& row) {
     QStringList names;
-    QStringList marks;
     QVariantList values;
     for (qsizetype c = 0; c < columns_.size(); ++c) {
         if (row.written[c]) {
-            names << quotedName(columns_[c].name);
-            marks << QStringLiteral("?");
+            names << columns_[c].stored;
             values << row.values[c];
         }
     }
-    const QString insert =
-        names.isEmpty() ? QStringLiteral("INSERT INTO %1 DEFAULT VALUES").arg(quotedName(table_))
-                        : QStringLiteral("INSERT INTO %1 (%2) VALUES (%3)")
-                              .arg(quotedName(table_), names.join(u", "), marks.join(u", "));
-    const QSqlQuery query = run(connection(), insert, values, insert);
-    row.rowid = query.lastInsertId().toLongLong();
+    row.locator = backend().insert(connection(), *table_, names, values);
 }
 
-void SqliteRecordset::updateRow(Row& row) {
-    QStringList sets;
+void DatabaseRecordset::updateRow(Row& row) {
+    QStringList names;
     QVariantList values;
-    qint64 rowid = row.rowid;
     for (qsizetype c = 0; c < columns_.size(); ++c) {
         if (row.written[c]) {
-            sets << quotedName(columns_[c].name) + QStringLiteral(" = ?");
+            names << columns_[c].stored;
             values << row.values[c];
-            if (!identity_.isEmpty() && columns_[c].name.toLower() == identity_) {
-                rowid = row.values[c].toLongLong();
-            }
         }
     }
-    values << row.rowid;
-    const QString update = QStringLiteral("UPDATE %1 SET %2 WHERE _rowid_ = ?")
-                               .arg(quotedName(table_), sets.join(u", "));
-    const QSqlQuery query = run(connection(), update, values, update);
-    if (query.numRowsAffected() < 1) {
+    const auto locator = backend().update(connection(), *table_, names, values, row.locator);
+    if (!locator) {
         throw SqlErrors::raised(
             ErrNumber::Database,
             QStringLiteral(
                 "Der Datensatz wurde nicht mehr gefunden; er wurde inzwischen gelöscht.\r\n") +
                 sql_.trimmed());
     }
-    row.rowid = rowid;
+    row.locator = *locator;
 }
 
-void SqliteRecordset::reloadRow(Row& row) {
-    const QString select =
-        QStringLiteral("SELECT * FROM %1 WHERE _rowid_ = ?").arg(quotedName(table_));
-    QSqlQuery query = run(connection(), select, {row.rowid}, select);
+void DatabaseRecordset::reloadRow(Row& row) {
+    SqlBackend& server = backend();
+    const QString select = QStringLiteral("SELECT * FROM %1 WHERE %2")
+                               .arg(server.quotedName(table_->name), locatorCondition(*table_));
+    QSqlQuery query = runSql(server, connection(), select, row.locator, select);
     if (!query.next()) {
         return;
     }
     const QSqlRecord record = query.record();
     for (int i = 0; i < record.count(); ++i) {
         const QString key = record.fieldName(i).toLower();
-        const qsizetype c =
-            index_.contains(key) ? index_.value(key) : addColumn(record.fieldName(i));
-        row.values[c] = query.value(i);
+        qsizetype c = index_.value(key, -1);
+        if (c < 0) {
+            c = addColumn(record.fieldName(i));
+            columns_[c].name = server.columnName(columns_[c].stored, sql_);
+        }
+        row.values[c] = server.value(query.value(i));
     }
 }
 
-qsizetype SqliteRecordset::seek(qsizetype from, qsizetype step) const {
+qsizetype DatabaseRecordset::seek(qsizetype from, qsizetype step) const {
     qsizetype i = from;
     while (i >= 0 && i < rows_.size() && rows_[i].deleted) {
         i += step;
@@ -325,7 +272,7 @@ qsizetype SqliteRecordset::seek(qsizetype from, qsizetype step) const {
     return i;
 }
 
-bool SqliteRecordset::Move(long direction) {
+bool DatabaseRecordset::Move(long direction) {
     requireOpen();
     savePending();
     const qsizetype size = rows_.size();
@@ -348,11 +295,11 @@ bool SqliteRecordset::Move(long direction) {
     return current_ >= 0 && current_ < size;
 }
 
-long SqliteRecordset::Execute(const QString& sql) {
+long DatabaseRecordset::Execute(const QString& sql) {
     const QString statement = translated(sql);
     const QSqlDatabase db = connection();
     database_.lock()->checkStillThere();
-    const QSqlQuery query = run(db, statement, {}, sql);
+    const QSqlQuery query = runSql(backend(), db, statement, {}, sql);
     const QString keyword = SqlDialect::leadingKeyword(statement);
     if (keyword == u"insert" || keyword == u"update" || keyword == u"delete" ||
         keyword == u"replace") {
@@ -361,28 +308,28 @@ long SqliteRecordset::Execute(const QString& sql) {
     return query.isSelect() ? -1 : 0;
 }
 
-const QVariant& SqliteRecordset::value(const QString& field) {
+const QVariant& DatabaseRecordset::value(const QString& field) {
     const qsizetype c = fieldIndex(field);
     return currentRow().values[c];
 }
 
-bool SqliteRecordset::ReadBool(const QString& field) {
+bool DatabaseRecordset::ReadBool(const QString& field) {
     return SqlValues::toBool(value(field), field);
 }
 
-QDateTime SqliteRecordset::ReadDate(const QString& field) {
+QDateTime DatabaseRecordset::ReadDate(const QString& field) {
     return SqlValues::toDate(value(field), field);
 }
 
-long SqliteRecordset::ReadLong(const QString& field) {
+long DatabaseRecordset::ReadLong(const QString& field) {
     return SqlValues::toLong(value(field), field);
 }
 
-QString SqliteRecordset::ReadText(const QString& field) {
+QString DatabaseRecordset::ReadText(const QString& field) {
     return SqlValues::toText(value(field));
 }
 
-QStringList SqliteRecordset::FieldNames() {
+QStringList DatabaseRecordset::FieldNames() {
     requireOpen();
     QStringList names;
     for (const Column& c : columns_) {
@@ -391,15 +338,15 @@ QStringList SqliteRecordset::FieldNames() {
     return names;
 }
 
-QVariant SqliteRecordset::ReadValue(const QString& field) {
+QVariant DatabaseRecordset::ReadValue(const QString& field) {
     return value(field);
 }
 
-QVariantList SqliteRecordset::ReadValues() {
+QVariantList DatabaseRecordset::ReadValues() {
     return currentRow().values;
 }
 
-void SqliteRecordset::write(const QString& field, const QVariant& value) {
+void DatabaseRecordset::write(const QString& field, const QVariant& value) {
     requireOpen();
     if (lockMode_ == 0) {
         throw SqlErrors::notUpdatable(sql_);
@@ -410,15 +357,15 @@ void SqliteRecordset::write(const QString& field, const QVariant& value) {
     row.written[c] = true;
 }
 
-void SqliteRecordset::WriteBool(const QString& field, bool value) {
+void DatabaseRecordset::WriteBool(const QString& field, bool value) {
     write(field, qint64{value ? 1 : 0});
 }
 
-void SqliteRecordset::WriteDate(const QString& field, const QDateTime& value) {
+void DatabaseRecordset::WriteDate(const QString& field, const QDateTime& value) {
     write(field, dateValue(value));
 }
 
-void SqliteRecordset::WriteLong(const QString& field, long value) {
+void DatabaseRecordset::WriteLong(const QString& field, long value) {
     if (columns_.value(fieldIndex(field)).isDate) {
         write(field, dateValue(dateFromDayNumber(static_cast<double>(value))));
     } else {
@@ -426,7 +373,7 @@ void SqliteRecordset::WriteLong(const QString& field, long value) {
     }
 }
 
-void SqliteRecordset::WriteText(const QString& field, const QString& value) {
+void DatabaseRecordset::WriteText(const QString& field, const QString& value) {
     if (!columns_.value(fieldIndex(field)).isDate) {
         // A null text would be bound as NULL; what is written is a text, the empty one too.
         write(field, value.isNull() ? QString(QLatin1String("")) : value);

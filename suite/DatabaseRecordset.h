@@ -8,19 +8,21 @@
 #include <memory>
 
 #include "common/Recordset.h"
+#include "suite/SqlBackend.h"
 
 class Database;
 
-// The suite's record object over one SQLite connection. OpenQuery loads the whole result into
-// memory. When the statement reads one table (SqlDialect::singleSource) and the lock mode is
-// not 0, the set is updatable: it carries each row's rowid, so that Update writes back,
-// inserts or deletes that row even when the key isn't selected. After an Update(0) the row is
+// The suite's record object over the database's connection (SQLite or PostgreSQL). OpenQuery
+// loads the whole result into memory. When the statement reads one table
+// (SqlDialect::singleSource) and the lock mode is not 0, the set is updatable: it carries each
+// row's locator (rowid or key), so that Update writes back, inserts or deletes that row even
+// when the key isn't selected. After an Update(0) the row is
 // read again from the table, so the identity and every column of it are readable.
 // Moving off a row or AddNew with unsaved writes saves them first.
-class SqliteRecordset : public CRecordset {
+class DatabaseRecordset : public CRecordset {
   public:
-    explicit SqliteRecordset(std::weak_ptr<Database> database);
-    ~SqliteRecordset() override;
+    explicit DatabaseRecordset(std::weak_ptr<Database> database);
+    ~DatabaseRecordset() override;
 
     // Throws when the database is gone. OpenQuery and Execute attach by themselves.
     void Connect() override;
@@ -56,18 +58,20 @@ class SqliteRecordset : public CRecordset {
 
   private:
     struct Column {
-        QString name;
+        QString name;    // as the system spells it
+        QString stored;  // as the database gave it
         bool isDate = false;
     };
     struct Row {
         QList<QVariant> values;
         QList<bool> written;
-        qint64 rowid = 0;
+        QVariantList locator;
         bool isNew = false;
         bool deleted = false;
     };
 
     QSqlDatabase connection() const;
+    SqlBackend& backend() const;
     QString translated(const QString& sql) const;
     void requireOpen() const;
     qsizetype fieldIndex(const QString& field) const;
@@ -80,16 +84,14 @@ class SqliteRecordset : public CRecordset {
     void insertRow(Row& row);
     void updateRow(Row& row);
     void reloadRow(Row& row);
-    qsizetype addColumn(const QString& name);
+    qsizetype addColumn(const QString& stored);
     qsizetype seek(qsizetype from, qsizetype step) const;
 
     std::weak_ptr<Database> database_;
     bool open_ = false;
     QString sql_;
     long lockMode_ = 0;
-    QString table_;     // the table rows are written back to; empty when not updatable
-    QString identity_;  // its INTEGER PRIMARY KEY, lower case
-    QHash<QString, bool> tableColumns_;  // lower-case column name -> is a date column
+    std::optional<SqlTable> table_;  // the table rows are written back to, when updatable
     QList<Column> columns_;
     QHash<QString, qsizetype> index_;  // lower-case name -> column
     // The names as the caller spells them, found once: a grid of many rows reads the same

@@ -1,0 +1,70 @@
+#pragma once
+
+#include <QDateTime>
+#include <QHash>
+#include <QSqlDatabase>
+#include <QString>
+#include <QStringList>
+#include <QVariant>
+#include <optional>
+
+class QSqlError;
+class RaisedError;
+
+// A table as the record set writes to it.
+struct SqlTable {
+    QString name;                  // as the database knows it
+    QHash<QString, bool> columns;  // lower-case column name -> is a date column
+    QStringList locator;           // expressions that find one row again (rowid or the key)
+    QStringList locatorColumns;    // the lower-case column each of them is, empty for none
+};
+
+// What differs between the databases the program runs on: how statements are translated, how
+// a table is described, how a row is inserted and values come back, how failures read. One per
+// connection, used on its thread only.
+class SqlBackend {
+  public:
+    virtual ~SqlBackend() = default;
+
+    virtual QString translate(const QString& serverSql, const QDateTime& now) const = 0;
+    // The table of that name; nullopt for a view or anything else.
+    virtual std::optional<SqlTable> table(const QSqlDatabase& db, const QString& name,
+                                          const QString& shown) = 0;
+    virtual QString quotedName(const QString& name) const = 0;
+    // Inserts one row and gives the locator values of the new row.
+    virtual QVariantList insert(const QSqlDatabase& db, const SqlTable& table,
+                                const QStringList& columns, const QVariantList& values) = 0;
+    // Updates the row found by its locator; gives its locator afterwards, nullopt when no row
+    // was found.
+    virtual std::optional<QVariantList> update(const QSqlDatabase& db, const SqlTable& table,
+                                               const QStringList& columns,
+                                               const QVariantList& values,
+                                               const QVariantList& locator) = 0;
+    // A value as read, in the form the system expects of every database: dates as the stored
+    // text 'yyyy-MM-dd HH:mm:ss', whole numbers as 64-bit integers.
+    virtual QVariant value(const QVariant& read) const { return read; }
+    // A result column's name as the system spells it; statement is the one the caller wrote.
+    virtual QString columnName(const QString& returned, const QString& /*statement*/) const {
+        return returned;
+    }
+    virtual RaisedError failure(const QSqlError& error, const QString& shown) const = 0;
+
+    // True when the database holds no table yet.
+    virtual bool isEmpty(const QSqlDatabase& db) const = 0;
+    // Runs a script of several statements in one transaction.
+    virtual void runScript(const QSqlDatabase& db, const QString& script) const = 0;
+    // Runs the schema on a database found empty; where several workstations may start at once
+    // on a new database, only the first one applies it.
+    virtual void applySchema(const QSqlDatabase& db, const QString& script) const {
+        runScript(db, script);
+    }
+    virtual QString schemaResource() const = 0;
+};
+
+class QSqlQuery;
+// Runs one statement, with values bound to its `?` marks; `shown` is the statement as the
+// caller wrote it, named in the failure.
+QSqlQuery runSql(const SqlBackend& backend, const QSqlDatabase& db, const QString& sql,
+                 const QVariantList& values, const QString& shown);
+// `<locator 1> = ? AND ...`, for the locator's values.
+QString locatorCondition(const SqlTable& table);
