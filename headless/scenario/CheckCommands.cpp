@@ -1,8 +1,9 @@
 // Checking: properties of windows, controls and tools, the windows that are open, the
 // database, what the system started, showed as help or reported, and what the host was told.
-#include <QSqlDatabase>
-#include <QSqlError>
-#include <QSqlQuery>
+#include <memory>
+
+#include "common/ErrObject.h"
+#include "common/Recordset.h"
 
 #include "headless/scenario/ScenarioCommand.h"
 #include "headless/scenario/ScenarioCommands.h"
@@ -43,20 +44,21 @@ void expectWindow(ScenarioPlay& play, const ScenarioCommand& c) {
 void expectSql(ScenarioPlay& play, const ScenarioCommand& c) {
     c.expectArgs(4, 4);
     const QString sql = c.text(1);
-    QSqlQuery query(QSqlDatabase::database(play.world().database().connectionName(), false));
-    if (!query.exec(sql)) {
-        scenarioFail(QStringLiteral("the query failed: %1").arg(query.lastError().text()));
+    // Through a record set, in the dialect the system writes, so that values read the same on
+    // every database.
+    const std::unique_ptr<CRecordset> query = play.world().database().recordsetFactory()();
+    long count = 0;
+    try {
+        count = query->OpenQuery(sql, 0);
+    } catch (const RaisedError& e) {
+        scenarioFail(QStringLiteral("the query failed: %1").arg(e.err().Description));
     }
     const QString mode = c.arg(2).raw;
     if (mode == QLatin1String("rows")) {
         const long expected = c.integer(3);
-        long rows = 0;
-        while (query.next()) {
-            ++rows;
-        }
-        if (rows != expected) {
+        if (count != expected) {
             scenarioFail(
-                QStringLiteral("the query gives %1 rows, expected %2").arg(rows).arg(expected));
+                QStringLiteral("the query gives %1 rows, expected %2").arg(count).arg(expected));
         }
         return;
     }
@@ -66,10 +68,10 @@ void expectSql(ScenarioPlay& play, const ScenarioCommand& c) {
     const Token& value = c.arg(3);
     const bool expectNull = !value.quoted && value.raw == QLatin1String("null");
     const QString expected = value.quoted ? value.text : value.raw;
-    if (!query.next()) {
+    if (count == 0) {
         scenarioFail(QStringLiteral("the query gives no row"));
     }
-    const QVariant first = query.value(0);
+    const QVariant first = query->ReadValues().value(0);
     const QString actual = first.isNull() ? QStringLiteral("null") : quoteText(first.toString());
     const bool equal = first.isNull() ? expectNull : (!expectNull && first.toString() == expected);
     if (!equal) {

@@ -2,6 +2,8 @@
 
 #include <QFile>
 
+#include "headless/scenario/ScenarioServerDatabase.h"
+
 ScenarioOutcome runScenarioText(const QString& text, const WindowKitMaker& kit) {
     ScenarioPlay play(ScenarioPlay::split(text), kit);
     return play.run();
@@ -18,12 +20,15 @@ ScenarioOutcome runScenarioFile(const QString& path, const WindowKitMaker& kit) 
 
 int runScenarioProgram(const QStringList& arguments, QTextStream& out, QTextStream& err,
                        const WindowKitMaker& qtKit) {
-    const QString usage = QStringLiteral("usage: autojobverw-scenario [--qt] FILE...");
+    const QString usage =
+        QStringLiteral("usage: autojobverw-scenario [--qt] [--postgresql] FILE...");
     bool qt = false;
     QStringList files;
     for (const QString& a : arguments) {
         if (a == QLatin1String("--qt")) {
             qt = true;
+        } else if (a == QLatin1String("--postgresql")) {
+            ScenarioServerDatabase::use(true);
         } else if (a.startsWith(QLatin1String("--"))) {
             err << "unknown option " << a << "\n" << usage << "\n";
             return 2;

@@ -6,6 +6,7 @@
 #include "common/ErrorReport.h"
 #include "headless/scenario/ScenarioError.h"
 #include "program/ProgramServices.h"
+#include "suite/SqlBackend.h"
 
 namespace {
 
@@ -44,6 +45,10 @@ ScenarioWorld::ScenarioWorld(ScenarioPrompter& prompter,
     config_->paths.insert(83, root() + QStringLiteral("/data"));
     config_->paths.insert(6, root() + QStringLiteral("/suite/"));
     config_->databasePath = QStringLiteral(":memory:");
+    if (ScenarioServerDatabase::inUse()) {
+        server_ = std::make_unique<ScenarioServerDatabase>();
+        config_->databasePath = server_->address();
+    }
 
     try {
         db_ = Database::open(config_->databasePath, clock_);
@@ -85,20 +90,22 @@ QString ScenarioWorld::expand(QString text) const {
 }
 
 void ScenarioWorld::setText(long id, const QString& text) {
-    runSql(QStringLiteral("INSERT OR REPLACE INTO tSuiteText (TextId, Text) VALUES (%1, %2)")
+    runSql(QStringLiteral("DELETE FROM tSuiteText WHERE TextId = %1").arg(id));
+    runSql(QStringLiteral("INSERT INTO tSuiteText (TextId, Text) VALUES (%1, %2)")
                .arg(id)
                .arg(sqlText(text)));
 }
 
 void ScenarioWorld::setStaff(long id, const QString& name) {
-    runSql(QStringLiteral("INSERT OR REPLACE INTO tMitarbeiter (MitId, Name) VALUES (%1, %2)")
+    runSql(QStringLiteral("DELETE FROM tMitarbeiter WHERE MitId = %1").arg(id));
+    runSql(QStringLiteral("INSERT INTO tMitarbeiter (MitId, Name) VALUES (%1, %2)")
                .arg(id)
                .arg(sqlText(name)));
 }
 
 void ScenarioWorld::setClient(long id, long number, bool office) {
-    runSql(QStringLiteral("INSERT OR REPLACE INTO tMandant (ManId, ManNr, Kanzlei) "
-                          "VALUES (%1, %2, %3)")
+    runSql(QStringLiteral("DELETE FROM tMandant WHERE ManId = %1").arg(id));
+    runSql(QStringLiteral("INSERT INTO tMandant (ManId, ManNr, Kanzlei) VALUES (%1, %2, %3)")
                .arg(id)
                .arg(number)
                .arg(office ? 1 : 0));
@@ -106,7 +113,7 @@ void ScenarioWorld::setClient(long id, long number, bool office) {
 
 void ScenarioWorld::runSql(const QString& statement) {
     try {
-        db_->runScript(statement);
+        db_->runScript(db_->backend().translate(statement, clock_->now()));
     } catch (const RaisedError& e) {
         scenarioFail(QStringLiteral("the statement failed: %1").arg(e.err().Description));
     }

@@ -9,11 +9,12 @@
 #include "headless/scenario/ScenarioEvents.h"
 #include "headless/scenario/ScenarioHost.h"
 #include "headless/scenario/ScenarioPlatform.h"
+#include "headless/scenario/ScenarioServerDatabase.h"
 #include "suite/Database.h"
 #include "suite/SuiteConfig.h"
 
-// Everything one scenario plays in, fresh for each file: an in-memory database with the
-// schema, a fixed clock, a temporary directory ($ROOT), the suite's stand-ins with the
+// Everything one scenario plays in, fresh for each file: a new database with the schema (in
+// memory, or on a PostgreSQL server: ScenarioServerDatabase.h), a fixed clock, a temporary directory ($ROOT), the suite's stand-ins with the
 // scenario defaults, the recording platform and shell, the host's objects and the window
 // kit. While the world exists the registry is its own; the former one comes back after.
 //
@@ -50,7 +51,7 @@ class ScenarioWorld {
     void setStaff(long id, const QString& name);
     void setClient(long id, long number, bool office);
 
-    // Runs one statement of the scenario (SQLite as written); throws ScenarioError with the
+    // Runs one statement of the scenario, in the dialect the system writes; throws ScenarioError with the
     // database's message when it fails.
     void runSql(const QString& statement);
 
@@ -58,6 +59,8 @@ class ScenarioWorld {
     QTemporaryDir dir_;
     std::shared_ptr<FixedClock> clock_;
     std::shared_ptr<SuiteConfig> config_;
+    // Outlives the connection: the database is dropped after it is closed.
+    std::unique_ptr<ScenarioServerDatabase> server_;
     std::shared_ptr<Database> db_;
     ScenarioEvents events_;
     std::shared_ptr<ScenarioPlatform> platform_;
