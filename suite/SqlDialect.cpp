@@ -303,6 +303,9 @@ std::optional<SingleSource> singleSource(const QString& sqliteSql) {
     }
     static const QSet<QString> compound{"union", "except", "intersect",
                                         "group", "window", "values"};
+    // An aggregate in the column list makes one row of many.
+    static const QSet<QString> aggregates{"count", "sum",   "min",          "max",
+                                          "avg",   "total", "group_concat", "string_agg"};
     qsizetype from = -1;
     int depth = 0;
     for (qsizetype i = 1; i < sig.size(); ++i) {
@@ -313,6 +316,10 @@ std::optional<SingleSource> singleSource(const QString& sqliteSql) {
             --depth;
         } else if (depth == 0 && t.kind == SqlTokenKind::Word) {
             if (compound.contains(t.text.toLower())) {
+                return std::nullopt;
+            }
+            if (from < 0 && i + 1 < sig.size() && sig[i + 1].isPunct(u'(') &&
+                aggregates.contains(t.text.toLower())) {
                 return std::nullopt;
             }
             if (from < 0 && t.isWord(u"from")) {

@@ -31,6 +31,7 @@ QSqlDatabase maintenance() {
         scenarioFail(QStringLiteral("no PostgreSQL server (PGHOST=%1): %2")
                          .arg(qEnvironmentVariable("PGHOST"), db.lastError().text()));
     }
+    QSqlQuery(db).exec(QStringLiteral("SET client_min_messages = warning"));
     return db;
 }
 
@@ -53,9 +54,8 @@ bool ScenarioServerDatabase::inUse() {
 
 ScenarioServerDatabase::ScenarioServerDatabase() {
     static std::atomic<int> counter{0};
-    name_ = QStringLiteral("ajv_scenario_%1_%2")
-                .arg(QCoreApplication::applicationPid())
-                .arg(++counter);
+    name_ =
+        QStringLiteral("ajv_scenario_%1_%2").arg(QCoreApplication::applicationPid()).arg(++counter);
     run(QStringLiteral("DROP DATABASE IF EXISTS %1").arg(name_));
     run(QStringLiteral("CREATE DATABASE %1 ENCODING 'UTF8' TEMPLATE template0").arg(name_));
 }

@@ -14,9 +14,10 @@
 #include "suite/SuiteConfig.h"
 
 // Everything one scenario plays in, fresh for each file: a new database with the schema (in
-// memory, or on a PostgreSQL server: ScenarioServerDatabase.h), a fixed clock, a temporary directory ($ROOT), the suite's stand-ins with the
-// scenario defaults, the recording platform and shell, the host's objects and the window
-// kit. While the world exists the registry is its own; the former one comes back after.
+// memory, or on a PostgreSQL server: ScenarioServerDatabase.h), a fixed clock, a temporary
+// directory ($ROOT), the suite's stand-ins with the scenario defaults, the recording platform and
+// shell, the host's objects and the window kit. While the world exists the registry is its own; the
+// former one comes back after.
 //
 // The suite's texts, staff members and clients live where the suite keeps them, in its own
 // tables (tSuiteText, tMitarbeiter, tMandant): the text, staff and client objects read them
@@ -51,8 +52,8 @@ class ScenarioWorld {
     void setStaff(long id, const QString& name);
     void setClient(long id, long number, bool office);
 
-    // Runs one statement of the scenario, in the dialect the system writes; throws ScenarioError with the
-    // database's message when it fails.
+    // Runs one statement of the scenario, in the dialect the system writes; throws ScenarioError
+    // with the database's message when it fails.
     void runSql(const QString& statement);
 
   private:

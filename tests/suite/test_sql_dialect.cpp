@@ -72,13 +72,15 @@ TEST(SqlDialect, SingleSourceFindsTheOneTableOfAPlainSelect) {
     EXPECT_EQ(plain->columnsAt, 7);
     EXPECT_EQ(SqlDialect::singleSource("select m.Name from [t Man] as m order by 1")->name,
               "t Man");
-    EXPECT_EQ(SqlDialect::singleSource("select count(Id) AS Anzahl FROM SYS_JobAgentLogDaten WHERE "
-                                       "AutoJobId in (select a from b join c on 1)")
+    EXPECT_EQ(SqlDialect::singleSource("select Name AS n FROM SYS_JobAgentLogDaten WHERE "
+                                       "AutoJobId in (select count(a) from b join c on 1)")
                   ->name,
               "SYS_JobAgentLogDaten");
-    for (const char* sql : {"select a.x from a inner join b on a.i = b.i", "select * from a, b",
-                            "select distinct x from a", "select x from a group by x",
-                            "select x from a union select x from b", "update a set x = 1"}) {
+    for (const char* sql :
+         {"select a.x from a inner join b on a.i = b.i", "select * from a, b",
+          "select distinct x from a", "select x from a group by x",
+          "select x from a union select x from b", "update a set x = 1",
+          "select count(Id) AS Anzahl from a where x = 1", "select x, MAX (y) from a"}) {
         EXPECT_FALSE(SqlDialect::singleSource(sql)) << sql;
     }
 }
