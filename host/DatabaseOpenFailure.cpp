@@ -4,6 +4,7 @@
 #include <QFileInfo>
 
 #include "common/PlatformUi.h"
+#include "suite/PostgresAddress.h"
 
 namespace {
 
@@ -40,15 +41,38 @@ QString cause(const QString& path, long number) {
     return QStringLiteral("Beim Öffnen ist ein Fehler aufgetreten.");
 }
 
+// A database on a server: no file to blame, the server, the network or the login.
+QString serverCause(long number) {
+    if (number == kReadOnly) {
+        return QStringLiteral(
+            "Die Datenbank kann nur gelesen werden. Ohne Schreibrecht können Aufträge und "
+            "Zeitpläne nicht gespeichert werden; das Programm öffnet sie deshalb nicht.");
+    }
+    if (number == kCantOpen) {
+        return QStringLiteral(
+            "Der Datenbankserver ist nicht erreichbar oder er lässt die Anmeldung nicht zu. "
+            "Bitte prüfen Sie die Adresse, den Benutzer und sein Kennwort (~/.pgpass oder "
+            "PGPASSWORD) und ob der Server läuft.");
+    }
+    return QStringLiteral("Beim Öffnen ist ein Fehler aufgetreten.");
+}
+
 }  // namespace
 
 QString databaseOpenFailureText(const QString& path, const ErrObject& error) {
     const QString message = error.Description.section(u'\r', 0, 0).section(u'\n', 0, 0);
+    QString shown = QDir::toNativeSeparators(QFileInfo(path).absoluteFilePath());
+    QString why;
+    if (PostgresAddress::isAddress(path)) {
+        shown = PostgresAddress::withoutPassword(path);
+        why = serverCause(error.Number);
+    } else {
+        why = cause(path, error.Number);
+    }
     return QStringLiteral(
                "Die Datenbank %1 kann nicht geöffnet werden.\r\n\r\n%2\r\n\r\n"
                "Meldung der Datenbank (Nr. %3): %4\r\n\r\nDas Programm wird beendet.")
-        .arg(QDir::toNativeSeparators(QFileInfo(path).absoluteFilePath()),
-             cause(path, error.Number))
+        .arg(shown, why)
         .arg(error.Number)
         .arg(message.trimmed());
 }

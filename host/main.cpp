@@ -63,9 +63,13 @@ Options parseOptions(const QApplication& app, SuiteConfig& config) {
         "demo database, creating it on first start."));
     parser.addHelpOption();
     const QCommandLineOption db(QStringLiteral("db"),
-                                QStringLiteral("The SQLite database to open (created with the "
-                                               "schema and the demo data when new)."),
-                                QStringLiteral("PATH"));
+                                QStringLiteral("The database to open: an SQLite file (created "
+                                               "with the schema and the demo data when new), or "
+                                               "postgresql://user@host:port/name for a database "
+                                               "on a PostgreSQL server (given the schema when "
+                                               "empty; the password comes from ~/.pgpass or "
+                                               "PGPASSWORD)."),
+                                QStringLiteral("PATH|URL"));
     const QCommandLineOption configFile(
         QStringLiteral("config"),
         QStringLiteral("The configuration file (default: %1).").arg(SuiteConfig::defaultFile()),

@@ -1,5 +1,6 @@
 #include "suite/PostgresAddress.h"
 
+#include <QRegularExpression>
 #include <QUrl>
 
 #include "suite/SqlErrors.h"
@@ -102,18 +103,12 @@ PostgresAddress PostgresAddress::parse(const QString& text) {
     return a;
 }
 
-QString PostgresAddress::shown() const {
-    QString text = QStringLiteral("postgresql://");
-    if (!user.isEmpty()) {
-        text += user + u'@';
-    }
-    text += host.startsWith(u'/') ? QString() : host;
-    if (port != 0) {
-        text += u':' + QString::number(port);
-    }
-    text += u'/' + database;
-    if (host.startsWith(u'/')) {
-        text += QStringLiteral("?host=") + host;
-    }
-    return text;
+QString PostgresAddress::withoutPassword(const QString& text) {
+    static const QRegularExpression inUserInfo(QStringLiteral("^([a-z]+://[^/@:?]*):[^@/?]*@"),
+                                               QRegularExpression::CaseInsensitiveOption);
+    static const QRegularExpression inQuery(QStringLiteral("([?&]password=)[^&]*"),
+                                            QRegularExpression::CaseInsensitiveOption);
+    return QString(text)
+        .replace(inUserInfo, QStringLiteral("\\1:***@"))
+        .replace(inQuery, QStringLiteral("\\1***"));
 }

@@ -20,6 +20,6 @@ struct PostgresAddress {
     // Throws RaisedError, in the system's words, for an address it cannot read or one that
     // holds a password.
     static PostgresAddress parse(const QString& text);
-    // The address without anything secret, for messages.
-    QString shown() const;
+    // The address as written with any password in it replaced by "***", for messages.
+    static QString withoutPassword(const QString& text);
 };

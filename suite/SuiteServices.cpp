@@ -8,6 +8,7 @@
 #include "suite/CoreTexte.h"
 #include "suite/CoreTools.h"
 #include "suite/OptionFileReaderText.h"
+#include "suite/PostgresAddress.h"
 #include "suite/StaffClient.h"
 #include "suite/TraceLog.h"
 
@@ -35,12 +36,16 @@ Services makeSuiteServices(std::shared_ptr<SuiteConfig> config, std::shared_ptr<
 
 std::shared_ptr<Database> openSuiteDatabase(const SuiteConfig& config,
                                             std::shared_ptr<IClock> clock) {
-    if (config.databasePath != QLatin1String(":memory:")) {
+    const bool onServer = PostgresAddress::isAddress(config.databasePath);
+    if (config.databasePath != QLatin1String(":memory:") && !onServer) {
         QDir().mkpath(QFileInfo(config.databasePath).absolutePath());
     }
     auto db = Database::open(config.databasePath, std::move(clock), config.busyTimeoutMs);
     if (!db->isEmpty()) {
         db->upgradeSchema();
+    } else if (onServer) {
+        // An office's shared database starts with the schema alone: its jobs are its own.
+        db->applySchema();
     } else {
         db->applySchema();
         // The demo's jobs work in folders below the data root, made ready for them.
