@@ -6,6 +6,7 @@
 #include <QSqlDatabase>
 #include <QSqlError>
 #include <QSqlQuery>
+#include <QSqlRecord>
 #include <QVariant>
 
 #include "common/ErrorExit.h"
@@ -73,7 +74,7 @@ QJsonArray schedulesOf(const QSqlDatabase& db, long jobId) {
     return schedules;
 }
 
-QJsonObject jobOf(const QSqlDatabase& db, const QSqlQuery& q) {
+QJsonObject jobOf(const QSqlDatabase& db, const QSqlRecord& q) {
     const long id = q.value(0).toLongLong();
     const int art = q.value(2).toInt();
     QJsonObject job;
@@ -120,11 +121,17 @@ QByteArray exportJobs(const QString& connectionName, const QList<long>& jobIds) 
                                          "Ps_Id_Mandant, MandKanz, Ps_Id_Mitarbeiter, Zusatzinfo, "
                                          "SingleLog, FremdFormat, FremdDateifilter, FremdMapping "
                                          "from tAutoJobJob order by idAutoJob"));
-    QJsonArray jobs;
+    // Every job is read before the first of its schedules: a connection to a server delivers
+    // the rows of one query at a time.
+    QList<QSqlRecord> rows;
     while (q.next()) {
         if (jobIds.isEmpty() || jobIds.contains(static_cast<long>(q.value(0).toLongLong()))) {
-            jobs.append(jobOf(db, q));
+            rows << q.record();
         }
+    }
+    QJsonArray jobs;
+    for (const QSqlRecord& row : rows) {
+        jobs.append(jobOf(db, row));
     }
     QJsonObject document;
     document[Key::kFormat] = kFormat;

@@ -458,6 +458,8 @@ QList<PlannedJob> readDocument(QStringList& problems, const Lookups& lookups,
 }
 
 void write(const QSqlDatabase& db, const QList<PlannedJob>& jobs, long staffId) {
+    // PostgreSQL tells a new row's identity only when asked for it.
+    const bool onServer = db.driverName() == u"QPSQL";
     for (const PlannedJob& job : jobs) {
         QVariantList values = job.values;
         values << QVariant::fromValue<qlonglong>(staffId);
@@ -467,9 +469,10 @@ void write(const QSqlDatabase& db, const QList<PlannedJob>& jobs, long staffId) 
                                          "MandKanz, Zusatzinfo, SingleLog, FremdFormat, "
                                          "FremdDateifilter, FremdMapping, Ps_Id_Mitarbeiter, "
                                          "Erstellt, LetzteAenderung) values (?, ?, ?, ?, ?, ?, "
-                                         "?, ?, ?, ?, ?, ?, ?, ?, ?, getdate(), getdate())"),
+                                         "?, ?, ?, ?, ?, ?, ?, ?, ?, getdate(), getdate())") +
+                              (onServer ? QStringLiteral(" returning idAutoJob") : QString()),
                           values);
-        const QVariant jobId = q.lastInsertId();
+        const QVariant jobId = onServer ? (q.next() ? q.value(0) : QVariant()) : q.lastInsertId();
         for (const PlannedSchedule& s : job.schedules) {
             QVariantList sv{jobId};
             sv << s.values << QVariant::fromValue<qlonglong>(staffId);
