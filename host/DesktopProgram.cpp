@@ -58,6 +58,7 @@ DesktopProgram::DesktopProgram(std::shared_ptr<SuiteConfig> config)
         JobTransfer::importFromMenu(window_.get(), db_->connectionName(), config_->mitId,
                                     [session = session_.get()] { session->refresh(); });
     };
+    window_->onRefresh = [session = session_.get()] { session->refresh(); };
 }
 
 DesktopProgram::~DesktopProgram() {
@@ -66,6 +67,7 @@ DesktopProgram::~DesktopProgram() {
     window_->onClose = nullptr;
     window_->onExport = nullptr;
     window_->onImport = nullptr;
+    window_->onRefresh = nullptr;
     session_.reset();
     window_.reset();
     scope_.reset();

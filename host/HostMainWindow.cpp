@@ -45,6 +45,20 @@ HostMainWindow::HostMainWindow(const QString& title, const QList<ToolDecl>& menu
     for (const QString& band : {QStringLiteral("Bearbeiten"), QStringLiteral("Ansicht")}) {
         addBandMenu(band, menuTools);
     }
+    // Where several workstations share a database, the list shows what the others saved once
+    // it is read again.
+    if (auto* view = findChild<QMenu*>(QStringLiteral("menuAnsicht"))) {
+        view->addSeparator();
+        QAction* refresh = view->addAction(QStringLiteral("Aktualisieren"));
+        refresh->setObjectName(QStringLiteral("mnuAktualisieren"));
+        refresh->setShortcut(QKeySequence::Refresh);
+        refresh->setToolTip(QStringLiteral("Liest die Liste der Aufträge neu aus der Datenbank"));
+        connect(refresh, &QAction::triggered, this, [this] {
+            if (onRefresh) {
+                onRefresh();
+            }
+        });
+    }
 
     QMenu* help = menuBar()->addMenu(QStringLiteral("&Hilfe"));
     help->setObjectName(QStringLiteral("menuHilfe"));

@@ -32,6 +32,7 @@ class HostMainWindow : public QMainWindow {
     // "Datei": export and import of job definitions.
     std::function<void()> onExport;
     std::function<void()> onImport;
+    std::function<void()> onRefresh;
 
   protected:
     void closeEvent(QCloseEvent* event) override;

@@ -1,4 +1,6 @@
 // The program users start, driven through its widgets as a person does.
+#include <sqlite3.h>
+
 #include <QAction>
 #include <QFile>
 #include <QLabel>
@@ -207,6 +209,33 @@ TEST_F(DesktopProgramTest, HostMenusAgreeWithTheListsToolsAndReachTheirCommands)
     EXPECT_EQ(logData, QStringLiteral("Suite  Logdaten Dienst"));
     EXPECT_TRUE(waitFor([] { return shownWindow(QStringLiteral("frmLogDaten")) == nullptr; }));
     agree("after the history and the log data");
+    EXPECT_EQ(boxes_->shown(), QStringList());
+}
+
+TEST_F(DesktopProgramTest, AktualisierenShowsWhatAnotherProgramSaved) {
+    const QString name = QStringLiteral("Von nebenan");
+    EXPECT_EQ(rowShowing(list(), QStringLiteral("Name"), name), 0);
+    sqlite3* other = nullptr;
+    ASSERT_EQ(sqlite3_open(config_->databasePath.toUtf8().constData(), &other), SQLITE_OK);
+    ASSERT_EQ(sqlite3_exec(other,
+                           "INSERT INTO tAutoJobJob (Name, DatenArt, MandKanz, Aktiviert) "
+                           "VALUES ('Von nebenan', 5, 3, 1)",
+                           nullptr, nullptr, nullptr),
+              SQLITE_OK);
+    sqlite3_close(other);
+    EXPECT_EQ(rowShowing(list(), QStringLiteral("Name"), name), 0);
+    chooseMenu(QStringLiteral("Ansicht"), QStringLiteral("Aktualisieren"));
+    EXPECT_TRUE(waitFor([&] { return rowShowing(list(), QStringLiteral("Name"), name) > 0; }));
+    // F5 does the same.
+    ASSERT_EQ(sqlite3_open(config_->databasePath.toUtf8().constData(), &other), SQLITE_OK);
+    ASSERT_EQ(sqlite3_exec(other, "DELETE FROM tAutoJobJob WHERE Name = 'Von nebenan'", nullptr,
+                           nullptr, nullptr),
+              SQLITE_OK);
+    sqlite3_close(other);
+    mainWindow().activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&mainWindow()));
+    QTest::keyClick(list(), Qt::Key_F5);
+    EXPECT_TRUE(waitFor([&] { return rowShowing(list(), QStringLiteral("Name"), name) == 0; }));
     EXPECT_EQ(boxes_->shown(), QStringList());
 }
 
