@@ -72,9 +72,9 @@ std::shared_ptr<Database> Database::open(const QString& path, std::shared_ptr<IC
     std::shared_ptr<Database> database(new Database(path, nextConnectionName(), clock));
     if (PostgresAddress::isAddress(path)) {
         database->onServer_ = true;
-        database->backend_ = std::make_unique<PostgresBackend>();
-        PostgresBackend::connect(database->connectionName_, PostgresAddress::parse(path),
-                                 busyTimeoutMs);
+        auto backend = std::make_unique<PostgresBackend>();
+        backend->connect(database->connectionName_, PostgresAddress::parse(path), busyTimeoutMs);
+        database->backend_ = std::move(backend);
     } else {
         database->backend_ = std::make_unique<SqliteBackend>();
         database->openSqlite(busyTimeoutMs);

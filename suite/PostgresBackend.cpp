@@ -111,18 +111,36 @@ void PostgresBackend::connect(const QString& connectionName, const PostgresAddre
                                                ? error.text().trimmed()
                                                : error.databaseText().trimmed());
     }
-    PostgresBackend probe;
-    const QString settings =
-        QStringLiteral("SET lock_timeout = %1").arg(busyTimeoutMs > 0 ? busyTimeoutMs : 0);
-    runSql(probe, db, settings, {}, settings);
-    const QString dates = QStringLiteral("SET datestyle = ISO, YMD");
-    runSql(probe, db, dates, {}, dates);
+    busyTimeoutMs_ = busyTimeoutMs;
+    applySessionSettings(db, busyTimeoutMs);
     const QString readOnly = QStringLiteral("SHOW transaction_read_only");
-    QSqlQuery query = runSql(probe, db, readOnly, {}, readOnly);
+    QSqlQuery query = runSql(*this, db, readOnly, {}, readOnly);
     if (query.next() && query.value(0).toString() == u"on") {
         // A standby or a read-only user: every save would fail later, after the user typed.
         throw SqlErrors::raised(kReadOnly,
                                 QStringLiteral("cannot execute in a read-only transaction"));
+    }
+}
+
+void PostgresBackend::applySessionSettings(const QSqlDatabase& db, int busyTimeoutMs) {
+    QSqlQuery query(db);
+    query.exec(QStringLiteral("SET lock_timeout = %1").arg(std::max(busyTimeoutMs, 0)));
+    query.exec(QStringLiteral("SET datestyle = ISO, YMD"));
+    query.exec(QStringLiteral("SET client_min_messages = warning"));
+}
+
+void PostgresBackend::recover(QSqlDatabase db, const QSqlError& error) const {
+    const QString state = error.nativeErrorCode();
+    const bool lost = state.startsWith(u"08") || state.startsWith(u"57P") ||
+                      (state.isEmpty() && error.type() == QSqlError::ConnectionError) ||
+                      (state.isEmpty() && (error.text().contains(u"server closed the connection") ||
+                                           error.text().contains(u"no connection to the server")));
+    if (!lost) {
+        return;
+    }
+    db.close();
+    if (db.open()) {
+        applySessionSettings(db, busyTimeoutMs_);
     }
 }
 

@@ -12,8 +12,7 @@ class PostgresBackend : public SqlBackend {
   public:
     // Opens the connection under that name. A statement that waits for a lock longer than
     // busyTimeoutMs fails, as on SQLite. Throws RaisedError when the server cannot be reached.
-    static void connect(const QString& connectionName, const PostgresAddress& address,
-                        int busyTimeoutMs);
+    void connect(const QString& connectionName, const PostgresAddress& address, int busyTimeoutMs);
 
     QString translate(const QString& serverSql, const QDateTime& now) const override;
     std::optional<SqlTable> table(const QSqlDatabase& db, const QString& name,
@@ -27,12 +26,16 @@ class PostgresBackend : public SqlBackend {
     QVariant value(const QVariant& read) const override;
     QString columnName(const QString& returned, const QString& statement) const override;
     RaisedError failure(const QSqlError& error, const QString& shown) const override;
+    void recover(QSqlDatabase db, const QSqlError& error) const override;
     bool isEmpty(const QSqlDatabase& db) const override;
     void runScript(const QSqlDatabase& db, const QString& script) const override;
     void applySchema(const QSqlDatabase& db, const QString& script) const override;
     QString schemaResource() const override { return QStringLiteral(":/db/schema.postgresql.sql"); }
 
   private:
+    static void applySessionSettings(const QSqlDatabase& db, int busyTimeoutMs);
+
+    int busyTimeoutMs_ = 0;
     QHash<QString, std::optional<SqlTable>> tables_;
     mutable QString spelledFor_;
     mutable QHash<QString, QString> spelling_;

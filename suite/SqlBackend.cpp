@@ -20,7 +20,10 @@ QSqlQuery runSql(const SqlBackend& backend, const QSqlDatabase& db, const QStrin
         ok = ok && query.exec();
     }
     if (!ok) {
-        throw backend.failure(query.lastError(), shown);
+        const QSqlError error = query.lastError();
+        query = QSqlQuery();
+        backend.recover(db, error);
+        throw backend.failure(error, shown);
     }
     return query;
 }

@@ -48,6 +48,9 @@ class SqlBackend {
         return returned;
     }
     virtual RaisedError failure(const QSqlError& error, const QString& shown) const = 0;
+    // After a failure: a connection the server dropped (a restart at night, a network cut) is
+    // opened again, so that the failure is reported once and the next action works.
+    virtual void recover(QSqlDatabase /*db*/, const QSqlError& /*error*/) const {}
 
     // True when the database holds no table yet.
     virtual bool isEmpty(const QSqlDatabase& db) const = 0;
