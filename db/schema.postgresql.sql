@@ -139,6 +139,12 @@ CREATE FUNCTION datum_aus_text(datum text) RETURNS timestamp without time zone
 DECLARE
     t text := btrim(datum, E' \t\r\n\f\v');
     teile text[];
+    j integer;
+    m integer;
+    d integer;
+    h integer;
+    mi integer;
+    s integer;
 BEGIN
     teile := regexp_match(t,
         '^(\d{4})-(\d{1,2})-(\d{1,2})(?:[ T](\d{1,2}):(\d{2})(?::(\d{2})(?:[.,]\d{1,9})?)?)?$');
@@ -149,13 +155,20 @@ BEGIN
         END IF;
     END IF;
     IF teile IS NOT NULL THEN
-        BEGIN
-            RETURN make_timestamp(teile[1]::integer, teile[2]::integer, teile[3]::integer,
-                                  coalesce(teile[4], '0')::integer, coalesce(teile[5], '0')::integer,
-                                  coalesce(teile[6], '0')::integer);
-        EXCEPTION WHEN datetime_field_overflow OR invalid_datetime_format THEN
-            -- not a calendar date (2026-02-30, 25:00): tried as a number below
-        END;
+        j := teile[1]::integer;
+        m := teile[2]::integer;
+        d := teile[3]::integer;
+        h := coalesce(teile[4], '0')::integer;
+        mi := coalesce(teile[5], '0')::integer;
+        s := coalesce(teile[6], '0')::integer;
+        -- A calendar date and a time of day, checked without an exception block, which would
+        -- keep the function out of parallel plans. Otherwise (2026-02-30, 25:00) it is tried
+        -- as a number, and fails.
+        IF j >= 1 AND m BETWEEN 1 AND 12 AND d >= 1 AND h < 24 AND mi < 60 AND s < 60 THEN
+            IF d <= extract(day FROM make_date(j, m, 1) + interval '1 month' - interval '1 day') THEN
+                RETURN make_timestamp(j, m, d, h, mi, s);
+            END IF;
+        END IF;
     ELSIF t ~ '^[+-]?(\d+\.?\d*|\.\d+)([eE][+-]?\d+)?$' THEN
         RETURN datum_aus_tageszahl(t::numeric);
     END IF;
