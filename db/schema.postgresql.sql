@@ -1,8 +1,8 @@
 -- Database of the configuration front end for automatic jobs (PostgreSQL 15).
 --
--- The same tables, views, columns and indexes as schema.sql, the SQLite
--- database of a single workstation; this one is shared by the workstations of
--- an office and the agent service.
+-- The same tables, views, columns and indexes as schema.sql (SQLite), for a
+-- database on a server that the workstations of an office and the agent
+-- service share.
 --
 -- Conventions
 --   * Every name is written without quotes, so that the server folds it to
@@ -15,7 +15,8 @@
 --     row without an id gets the highest id plus one, as in SQLite.
 --   * Every date/time column is timestamp(0) without time zone: local time,
 --     whole seconds. A date without time of day carries 00:00:00.
---   * Flags are smallint holding 0/1, codes and ids integer, texts varchar/text.
+--   * Flags are smallint holding 0/1, codes and ids integer, texts varchar/text
+--     (the schedule name bpchar, see there).
 --   * Column names are fixed by the agent service and the starter program,
 --     odd spellings included (FreqencyType, FrequencySubDayinterval).
 --   * No foreign key constraints: deleting a job leaves its schedules, runs
@@ -40,9 +41,9 @@ CREATE COLLATION nocase (provider = icu, locale = 'und-u-ks-level2', determinist
 -- Functions of the statements of the system
 ------------------------------------------------------------------------------
 
--- The server's local time in whole seconds. The start of the transaction, as
--- every time function of PostgreSQL but clock_timestamp: a statement sees one
--- "now" throughout. Fractions are cut off, not rounded, as by the program.
+-- The server's local time in whole seconds: localtimestamp, the start of the
+-- transaction, so that a statement sees one "now" throughout. Fractions are
+-- cut off, not rounded, as by the program.
 CREATE FUNCTION getdate() RETURNS timestamp(0) without time zone
     LANGUAGE sql STABLE PARALLEL SAFE
     AS $$ SELECT date_trunc('second', localtimestamp)::timestamp(0) without time zone $$;
@@ -402,7 +403,7 @@ CREATE INDEX ixAutoJobJob_Mandant ON tAutoJobJob (Ps_Id_Mandant);
 --   Ps_Id                      staff id of the last writer
 --   Name                       compared without regard to case and trailing
 --                              blanks, as the server does: copying a schedule
---                              matches it by name. Of the server's types only
+--                              matches it by name. Of PostgreSQL's types only
 --                              bpchar ignores trailing blanks in comparisons
 --                              (varchar and text do not, and no collation of
 --                              PostgreSQL 15 can ignore only trailing blanks).
