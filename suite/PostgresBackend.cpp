@@ -62,6 +62,19 @@ const QHash<QString, QString>& schemaSpelling() {
     return spelling;
 }
 
+// The server ended the session or cannot be reached any more.
+bool connectionLost(const QSqlError& error) {
+    const QString state = error.nativeErrorCode();
+    if (!state.isEmpty()) {
+        return state.startsWith(u"08") || state.startsWith(u"57P");
+    }
+    const QString text = error.text();
+    return error.type() == QSqlError::ConnectionError ||
+           text.contains(u"server closed the connection") ||
+           text.contains(u"no connection to the server") ||
+           text.contains(u"terminating connection");
+}
+
 QString quoted(const QString& name) {
     return u'"' + QString(name).replace(u'"', QStringLiteral("\"\"")) + u'"';
 }
@@ -130,12 +143,7 @@ void PostgresBackend::applySessionSettings(const QSqlDatabase& db, int busyTimeo
 }
 
 void PostgresBackend::recover(QSqlDatabase db, const QSqlError& error) const {
-    const QString state = error.nativeErrorCode();
-    const bool lost = state.startsWith(u"08") || state.startsWith(u"57P") ||
-                      (state.isEmpty() && error.type() == QSqlError::ConnectionError) ||
-                      (state.isEmpty() && (error.text().contains(u"server closed the connection") ||
-                                           error.text().contains(u"no connection to the server")));
-    if (!lost) {
+    if (!connectionLost(error)) {
         return;
     }
     db.close();
@@ -284,9 +292,11 @@ RaisedError PostgresBackend::failure(const QSqlError& error, const QString& show
     if (!state.isEmpty() && !text.contains(state)) {
         text += QStringLiteral(" (SQLSTATE ") + state + u')';
     }
+    const long number = connectionLost(error) ? kCantOpen
+                        : state.isEmpty()     ? ErrNumber::Database
+                                              : resultCode(state);
     return SqlErrors::raised(
-        state.isEmpty() ? ErrNumber::Database : resultCode(state),
-        shown.isEmpty() ? text : text + QStringLiteral("\r\n") + shown.trimmed());
+        number, shown.isEmpty() ? text : text + QStringLiteral("\r\n") + shown.trimmed());
 }
 
 bool PostgresBackend::isEmpty(const QSqlDatabase& db) const {
