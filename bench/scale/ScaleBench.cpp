@@ -210,7 +210,8 @@ qint64 stepAll(sqlite3* db, const char* sql, qint64 limit, const QByteArray& bin
     return rows;
 }
 
-// Raw SQLite opening the file and reading the first screen of the list view, or all of it.
+// Raw SQLite opening the file and reading the first screen of the list view, or all of it;
+// on a server the same through QPSQL.
 int measureRawList(const QString& path, qint64 limit) {
     if (PostgresAddress::isAddress(path)) {
         const ScaleBenchServer::Timed r = ScaleBenchServer::rawList(path, limit);
@@ -271,7 +272,7 @@ int measureProgramHistory(int argc, char* argv[], const QString& path) {
     return 0;
 }
 
-// The same rows by an index range scan in raw SQLite.
+// The same rows by an index range scan in raw SQLite, or by a plain query on the server.
 int measureRawHistory(const QString& path) {
     if (PostgresAddress::isAddress(path)) {
         const ScaleBenchServer::Timed r = ScaleBenchServer::rawHistory(
