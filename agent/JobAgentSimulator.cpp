@@ -1,28 +1,16 @@
 #include "agent/JobAgentSimulator.h"
 
-#include <sqlite3.h>
-
 #include <QSqlDatabase>
-#include <QSqlDriver>
 #include <QSqlError>
 #include <QSqlQuery>
 #include <array>
 #include <queue>
 
+#include "agent/AgentWriter.h"
 #include "suite/Database.h"
 #include "suite/SqlErrors.h"
 
 namespace {
-
-sqlite3* handleOf(const Database& database) {
-    const QSqlDatabase db = QSqlDatabase::database(database.connectionName(), false);
-    const QVariant handle = db.driver()->handle();
-    if (handle.isValid() && qstrcmp(handle.typeName(), "sqlite3*") == 0) {
-        return *static_cast<sqlite3* const*>(handle.constData());
-    }
-    throw SqlErrors::raised(ErrNumber::Database,
-                            QStringLiteral("Die Verbindung gibt keinen SQLite-Zugriff."));
-}
 
 // Seconds on a plain calendar: day number times 86400 plus the time of day.
 qint64 secondsOf(const QDateTime& t) {
@@ -59,24 +47,9 @@ QByteArray storedText(qint64 s) {
     return QByteArray(buf, 19);
 }
 
-void check(sqlite3* db, int rc, const char* what) {
-    if (rc != SQLITE_OK && rc != SQLITE_DONE && rc != SQLITE_ROW) {
-        throw SqlErrors::raised(rc & 0xff, QString::fromUtf8(sqlite3_errmsg(db)) +
-                                               QStringLiteral("\r\n") + QString::fromUtf8(what));
-    }
-}
-
-void bindText(sqlite3_stmt* st, int at, const QByteArray& text) {
-    sqlite3_bind_text(st, at, text.constData(), static_cast<int>(text.size()), SQLITE_TRANSIENT);
-}
-
 // A file in a directory, with the directory's own separator.
 QString inDirectory(const QString& dir, const QString& name) {
     return dir + (dir.contains(u'\\') || !dir.contains(u'/') ? u'\\' : u'/') + name;
-}
-
-void bindText(sqlite3_stmt* st, int at, const QString& text) {
-    bindText(st, at, text.toUtf8());
 }
 
 // How often a schedule runs, in seconds; 0 for a single run.
@@ -101,25 +74,15 @@ qint64 intervalOf(int type, int interval, int recurrence, int subDay, int subDay
     }
 }
 
-const char* const kInsertRun =
-    "INSERT INTO tAutoJobVerlauf (idAutoJobSchedule, LetzteAusfuehrung, Erfolgreich, MTAPath, "
-    "BackupPath, ErrorMTA) VALUES (?, ?, ?, ?, ?, ?)";
-const char* const kInsertLog =
-    "INSERT INTO SYS_JobAgentLogDaten (DatumUhrzeit, LogTyp, LogSubTyp, JobArt, AutoJobId, "
-    "MitarbeiterId, Herkunft, AuftragKennung, Kategorie, Name, Text, Zusatz) "
-    "VALUES (?, ?, 0, ?, ?, 0, ?, ?, ?, ?, ?, ?)";
-
 }  // namespace
 
 JobAgentSimulator::JobAgentSimulator(std::shared_ptr<Database> database, AgentOptions options)
-    : database_(std::move(database)), options_(options), rng_(options.seed) {
-    db_ = handleOf(*database_);
-}
+    : database_(std::move(database)),
+      options_(options),
+      writer_(AgentWriter::forDatabase(*database_)),
+      rng_(options.seed) {}
 
-JobAgentSimulator::~JobAgentSimulator() {
-    sqlite3_finalize(insertRun_);
-    sqlite3_finalize(insertLog_);
-}
+JobAgentSimulator::~JobAgentSimulator() = default;
 
 int JobAgentSimulator::loadSchedules() {
     QSqlQuery query(QSqlDatabase::database(database_->connectionName(), false));
@@ -154,23 +117,6 @@ int JobAgentSimulator::loadSchedules() {
         schedules_.append(s);
     }
     return static_cast<int>(schedules_.size());
-}
-
-void JobAgentSimulator::prepare() {
-    if (insertRun_ == nullptr) {
-        check(db_, sqlite3_prepare_v2(db_, kInsertRun, -1, &insertRun_, nullptr), kInsertRun);
-        check(db_, sqlite3_prepare_v2(db_, kInsertLog, -1, &insertLog_, nullptr), kInsertLog);
-    }
-}
-
-void JobAgentSimulator::begin() {
-    // Immediate: the write lock is taken at once, so the transaction never has to give up
-    // halfway for a reader that turned writer.
-    check(db_, sqlite3_exec(db_, "BEGIN IMMEDIATE", nullptr, nullptr, nullptr), "BEGIN");
-}
-
-void JobAgentSimulator::commit() {
-    check(db_, sqlite3_exec(db_, "COMMIT", nullptr, nullptr, nullptr), "COMMIT");
 }
 
 int JobAgentSimulator::resultCode(int datenArt) {
@@ -218,27 +164,23 @@ QString JobAgentSimulator::logFileName(const Schedule& s, const QDateTime& at) c
 void JobAgentSimulator::writeLog(const QDateTime& at, int logTyp, const Schedule* s,
                                  const QString& kategorie, const QString& text,
                                  const QString& zusatz) {
-    sqlite3_stmt* st = insertLog_;
-    bindText(st, 1, storedText(secondsOf(at)));
-    sqlite3_bind_int(st, 2, logTyp);
-    sqlite3_bind_int(st, 3, s ? s->datenArt : 0);
-    sqlite3_bind_int64(st, 4, s ? s->idJob : 0);
+    AgentLogEntry entry;
+    entry.at = storedText(secondsOf(at));
+    entry.logTyp = logTyp;
+    entry.jobArt = s ? s->datenArt : 0;
+    entry.autoJobId = s ? s->idJob : 0;
     if (logTyp == 2) {
-        sqlite3_bind_null(st, 5);
-        bindText(st, 6,
-                 QStringLiteral("%1-%2").arg(s->idJob).arg(
-                     runAt_.toString(QStringLiteral("yyyyMMddHHmmss"))));
-        bindText(st, 8, s->jobName);
+        entry.auftragKennung = QStringLiteral("%1-%2").arg(s->idJob).arg(
+            runAt_.toString(QStringLiteral("yyyyMMddHHmmss")));
+        entry.name = s->jobName;
     } else {
-        bindText(st, 5, QByteArrayLiteral("JobAgent"));
-        sqlite3_bind_null(st, 6);
-        bindText(st, 8, QByteArrayLiteral("Dienst"));
+        entry.herkunft = QStringLiteral("JobAgent");
+        entry.name = QStringLiteral("Dienst");
     }
-    bindText(st, 7, kategorie);
-    bindText(st, 9, text);
-    bindText(st, 10, zusatz);
-    check(db_, sqlite3_step(st), kInsertLog);
-    sqlite3_reset(st);
+    entry.kategorie = kategorie;
+    entry.text = text;
+    entry.zusatz = zusatz;
+    writer_->writeLog(entry);
     ++counts_.logEntries;
 }
 
@@ -254,16 +196,15 @@ void JobAgentSimulator::writeRun(const Schedule& s, const QDateTime& at) {
     const bool archive = s.datenArt == 20 || s.datenArt == 21;
     const QString stamp = at.toString(QStringLiteral("yyyyMMdd_HHmmss"));
     runAt_ = at;
-    sqlite3_stmt* st = insertRun_;
-    sqlite3_bind_int64(st, 1, s.idSchedule);
-    bindText(st, 2, storedText(secondsOf(at)));
-    sqlite3_bind_int(st, 3, code);
-    bindText(st, 4, s.mtaPath);
+    AgentRun run;
+    run.idSchedule = s.idSchedule;
+    run.at = storedText(secondsOf(at));
+    run.code = code;
+    run.mtaPath = s.mtaPath;
     // The backup column of archive and direct jobs holds no directory.
-    bindText(st, 5, archive || s.datenArt == 28 ? QString() : inDirectory(s.backupPath, stamp));
-    bindText(st, 6, s.errorMta);
-    check(db_, sqlite3_step(st), kInsertRun);
-    sqlite3_reset(st);
+    run.backupPath = archive || s.datenArt == 28 ? QString() : inDirectory(s.backupPath, stamp);
+    run.errorMta = s.errorMta;
+    writer_->writeRun(run);
     ++counts_.runs;
     if (options_.logEntries == 0) {
         writeLog(at, 2, &s, QStringLiteral("Information"), QStringLiteral("Auftrag gestartet"),
@@ -281,10 +222,7 @@ void JobAgentSimulator::writeRun(const Schedule& s, const QDateTime& at) {
 }
 
 AgentCounts JobAgentSimulator::fillYears() {
-    prepare();
-    // A bulk fill is repeated when it breaks off; it need not wait for the disk.
-    sqlite3_exec(db_, "PRAGMA synchronous=OFF", nullptr, nullptr, nullptr);
-    sqlite3_exec(db_, "PRAGMA cache_size=-65536", nullptr, nullptr, nullptr);
+    writer_->startBulk();
     counts_ = {};
     const qint64 end = secondsOf(database_->clock().now());
     const qint64 start = secondsOf(database_->clock().now().addYears(-std::max(1, options_.years)));
@@ -331,52 +269,59 @@ AgentCounts JobAgentSimulator::fillYears() {
 
     qint64 inBatch = 0;
     qint64 lastServiceDay = -1;
-    begin();
-    while (!queue.empty()) {
-        Next n = queue.top();
-        queue.pop();
-        if (n.at > end) {
-            continue;
+    // Rows of a transaction that fails are gone with it; the transactions before it stay.
+    try {
+        writer_->begin();
+        while (!queue.empty()) {
+            Next n = queue.top();
+            queue.pop();
+            if (n.at > end) {
+                continue;
+            }
+            if (options_.logEntries == 0 && n.at / 86400 != lastServiceDay) {
+                lastServiceDay = n.at / 86400;
+                writeServiceEntry(fromSeconds(lastServiceDay * 86400 + 3600));
+            }
+            writeRun(schedules_[n.schedule], fromSeconds(n.at));
+            if (++inBatch >= options_.batch) {
+                writer_->commit();
+                writer_->begin();
+                inBatch = 0;
+            }
+            if (n.left != 1) {
+                n.left = n.left > 0 ? n.left - 1 : n.left;
+                n.at = n.step > 0 ? n.at + n.step : spread(++n.index, n.count, n.offset);
+                queue.push(n);
+            }
         }
-        if (options_.logEntries == 0 && n.at / 86400 != lastServiceDay) {
-            lastServiceDay = n.at / 86400;
-            writeServiceEntry(fromSeconds(lastServiceDay * 86400 + 3600));
-        }
-        writeRun(schedules_[n.schedule], fromSeconds(n.at));
-        if (++inBatch >= options_.batch) {
-            commit();
-            begin();
-            inBatch = 0;
-        }
-        if (n.left != 1) {
-            n.left = n.left > 0 ? n.left - 1 : n.left;
-            n.at = n.step > 0 ? n.at + n.step : spread(++n.index, n.count, n.offset);
-            queue.push(n);
-        }
-    }
 
-    // A given number of entries: spread evenly over the period, most of them of the jobs.
-    for (qint64 k = 0; k < options_.logEntries; ++k) {
-        const QDateTime at = fromSeconds(start + span * k / options_.logEntries);
-        const unsigned kind = rng_() % 20;
-        if (kind < 14 && !schedules_.isEmpty()) {
-            const Schedule& s = schedules_[static_cast<qsizetype>(k % schedules_.size())];
-            runAt_ = at;
-            writeLog(at, 2, &s, QStringLiteral("Information"), QStringLiteral("Auftrag beendet"),
-                     inDirectory(s.errorMta, logFileName(s, at)));
-        } else if (kind < 19) {
-            writeServiceEntry(at);
-        } else {
-            writeLog(at, 3, nullptr, QStringLiteral("Fehler"),
-                     QStringLiteral("Verbindung zur Datenbank unterbrochen"), QString());
+        // A given number of entries: spread evenly over the period, most of them of the jobs.
+        for (qint64 k = 0; k < options_.logEntries; ++k) {
+            const QDateTime at = fromSeconds(start + span * k / options_.logEntries);
+            const unsigned kind = rng_() % 20;
+            if (kind < 14 && !schedules_.isEmpty()) {
+                const Schedule& s = schedules_[static_cast<qsizetype>(k % schedules_.size())];
+                runAt_ = at;
+                writeLog(at, 2, &s, QStringLiteral("Information"),
+                         QStringLiteral("Auftrag beendet"),
+                         inDirectory(s.errorMta, logFileName(s, at)));
+            } else if (kind < 19) {
+                writeServiceEntry(at);
+            } else {
+                writeLog(at, 3, nullptr, QStringLiteral("Fehler"),
+                         QStringLiteral("Verbindung zur Datenbank unterbrochen"), QString());
+            }
+            if (++inBatch >= options_.batch) {
+                writer_->commit();
+                writer_->begin();
+                inBatch = 0;
+            }
         }
-        if (++inBatch >= options_.batch) {
-            commit();
-            begin();
-            inBatch = 0;
-        }
+        writer_->commit();
+    } catch (...) {
+        writer_->rollback();
+        throw;
     }
-    commit();
     return counts_;
 }
 
@@ -384,22 +329,19 @@ bool JobAgentSimulator::runOnce() {
     if (schedules_.isEmpty()) {
         return false;
     }
-    prepare();
     const AgentCounts before = counts_;
     const Schedule& s = schedules_[next_++ % schedules_.size()];
     const QDateTime now = database_->clock().now();
     try {
-        begin();
+        writer_->begin();
         if (next_ % 10 == 1) {
             writeServiceEntry(now);
         }
         writeRun(s, now);
-        commit();
+        writer_->commit();
     } catch (...) {
         // Nothing of the run stays, and nothing of it is counted.
-        sqlite3_exec(db_, "ROLLBACK", nullptr, nullptr, nullptr);
-        sqlite3_reset(insertRun_);
-        sqlite3_reset(insertLog_);
+        writer_->rollback();
         counts_ = before;
         throw;
     }

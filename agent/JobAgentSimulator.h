@@ -6,13 +6,13 @@
 #include <memory>
 #include <random>
 
+class AgentWriter;
 class Database;
-struct sqlite3;
-struct sqlite3_stmt;
 
 // Writes what the job agent service writes: runs of the schedules in tAutoJobVerlauf and log
 // entries of the service and of the jobs in SYS_JobAgentLogDaten. It reads jobs and schedules
-// and never writes to them.
+// and never writes to them. Works on an SQLite file and on a PostgreSQL server alike (the
+// writing is the AgentWriter's).
 struct AgentOptions {
     int years = 0;          // bulk: the period that ends now
     qint64 runsPerJob = 0;  // bulk: runs of each job over the period; 0 as its schedules say
@@ -59,9 +59,6 @@ class JobAgentSimulator {
         qint64 intervalSecs = 86400;
     };
 
-    void prepare();
-    void begin();
-    void commit();
     void writeRun(const Schedule& s, const QDateTime& at);
     void writeLog(const QDateTime& at, int logTyp, const Schedule* s, const QString& kategorie,
                   const QString& text, const QString& zusatz);
@@ -71,9 +68,7 @@ class JobAgentSimulator {
 
     std::shared_ptr<Database> database_;
     AgentOptions options_;
-    sqlite3* db_ = nullptr;
-    sqlite3_stmt* insertRun_ = nullptr;
-    sqlite3_stmt* insertLog_ = nullptr;
+    std::unique_ptr<AgentWriter> writer_;
     QList<Schedule> schedules_;
     qsizetype next_ = 0;
     QDateTime runAt_;  // the run the job entries being written belong to

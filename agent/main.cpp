@@ -12,6 +12,7 @@
 #include "agent/JobAgentSimulator.h"
 #include "common/ErrObject.h"
 #include "suite/Database.h"
+#include "suite/PostgresAddress.h"
 
 namespace {
 
@@ -42,8 +43,11 @@ int main(int argc, char* argv[]) {
         "Schreibt, was der Dienst des Job-Agenten schreibt: Ausführungen in tAutoJobVerlauf und "
         "Logeinträge in SYS_JobAgentLogDaten, zu den Aufträgen und Zeitplänen der Datenbank."));
     parser.addHelpOption();
-    const QCommandLineOption dbOption(QStringLiteral("db"), QStringLiteral("SQLite-Datenbank."),
-                                      QStringLiteral("PATH"));
+    const QCommandLineOption dbOption(
+        QStringLiteral("db"),
+        QStringLiteral("SQLite-Datenbank oder Adresse einer PostgreSQL-Datenbank "
+                       "(postgresql://benutzer@host:port/name, postgresql:///name)."),
+        QStringLiteral("PATH"));
     const QCommandLineOption yearsOption(QStringLiteral("years"),
                                          QStringLiteral("Füllt so viele Jahre bis heute."),
                                          QStringLiteral("N"));
@@ -79,7 +83,9 @@ int main(int argc, char* argv[]) {
               stderr);
         return 2;
     }
-    if (!QFileInfo::exists(path)) {
+    // A database on a server is found by connecting to it.
+    const bool onServer = PostgresAddress::isAddress(path);
+    if (!onServer && !QFileInfo::exists(path)) {
         print(QStringLiteral("Die Datenbank %1 gibt es nicht.").arg(path), stderr);
         return 2;
     }
@@ -93,7 +99,9 @@ int main(int argc, char* argv[]) {
     try {
         auto database = Database::open(path, std::make_shared<SystemClock>());
         if (database->isEmpty()) {
-            print(QStringLiteral("Die Datenbank %1 hat keine Tabellen.").arg(path), stderr);
+            print(QStringLiteral("Die Datenbank %1 hat keine Tabellen.")
+                      .arg(onServer ? PostgresAddress::withoutPassword(path) : path),
+                  stderr);
             return 2;
         }
         JobAgentSimulator agent(database, options);

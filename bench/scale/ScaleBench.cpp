@@ -1,11 +1,14 @@
 // autojobverw-bench-scale: the job list and the run history on large databases, measured side
 // by side with raw SQLite on the same file in the same run.
 //
-//   autojobverw-bench-scale [--cache DIR] [--repeat N]
+//   autojobverw-bench-scale [--cache DIR] [--repeat N] [--history-runs N]
+//   autojobverw-bench-scale --postgresql [--repeat N] [--history-runs N]
 //
 // The data sets are made once into the cache folder (jobs inserted here, runs written by the
 // agent simulator) and reused. Every measurement runs in a process of its own, so that its
-// peak memory is its own.
+// peak memory is its own. With --postgresql the program works on the server the PG*
+// environment names, the data sets are databases of their own there, and the raw side is the
+// same work as plain queries through QtSql's QPSQL driver.
 
 #include <sqlite3.h>
 #include <sys/resource.h>
@@ -23,17 +26,19 @@
 #include <cstdio>
 
 #include "agent/JobAgentSimulator.h"
+#include "bench/scale/ScaleBenchServer.h"
 #include "common/ErrObject.h"
 #include "common/Recordset.h"
 #include "host/DesktopProgram.h"
 #include "host/HostMainWindow.h"
 #include "suite/Database.h"
+#include "suite/PostgresAddress.h"
 #include "suite/SqlDates.h"
 #include "suite/SuiteConfig.h"
 
 namespace {
 
-constexpr qint64 kHistoryRuns = 5000000;
+constexpr qint64 kHistoryRuns = 5000000;  // the default of --history-runs
 constexpr int kScreenRows = 40;
 const QDateTime kBenchNow(QDate(2026, 11, 23), QTime(12, 0, 0));
 
@@ -67,15 +72,27 @@ void makeJobs(const QString& path, int n) {
     static const int types[] = {4, 5, 17, 18, 20, 21, 28, 30, 99};
     QSqlQuery q(QSqlDatabase::database(db->connectionName(), false));
     q.exec(QStringLiteral("BEGIN"));
-    q.prepare(QStringLiteral(
-        "INSERT INTO tAutoJobJob (Erstellt, Name, Beschreibung, Aktiviert, DatenArt, MTAPath, "
-        "BackupPath, ErrorMTA, Ps_Id_Mandant, MandKanz, LetzteAenderung) VALUES "
-        "('2024-01-01 08:00:00', ?, 'Auftrag der Messung', 1, ?, '/srv/zpk/import', "
-        "'/srv/zpk/backup', '/srv/zpk/log', 0, 3, '2024-01-01 08:00:00')"));
-    for (int i = 1; i <= n; ++i) {
-        q.bindValue(0, QStringLiteral("Auftrag %1").arg(i, 6, 10, QLatin1Char('0')));
-        q.bindValue(1, types[i % 9]);
-        q.exec();
+    if (db->onServer()) {
+        // One statement: a round trip per job would measure the network.
+        q.exec(QStringLiteral(
+                   "INSERT INTO tAutoJobJob (Erstellt, Name, Beschreibung, Aktiviert, DatenArt, "
+                   "MTAPath, BackupPath, ErrorMTA, Ps_Id_Mandant, MandKanz, LetzteAenderung) "
+                   "SELECT '2024-01-01 08:00:00', 'Auftrag ' || lpad(i::text, 6, '0'), "
+                   "'Auftrag der Messung', 1, (ARRAY[4, 5, 17, 18, 20, 21, 28, 30, 99])[i % 9 + "
+                   "1], '/srv/zpk/import', '/srv/zpk/backup', '/srv/zpk/log', 0, 3, "
+                   "'2024-01-01 08:00:00' FROM generate_series(1, %1) AS i")
+                   .arg(n));
+    } else {
+        q.prepare(QStringLiteral(
+            "INSERT INTO tAutoJobJob (Erstellt, Name, Beschreibung, Aktiviert, DatenArt, MTAPath, "
+            "BackupPath, ErrorMTA, Ps_Id_Mandant, MandKanz, LetzteAenderung) VALUES "
+            "('2024-01-01 08:00:00', ?, 'Auftrag der Messung', 1, ?, '/srv/zpk/import', "
+            "'/srv/zpk/backup', '/srv/zpk/log', 0, 3, '2024-01-01 08:00:00')"));
+        for (int i = 1; i <= n; ++i) {
+            q.bindValue(0, QStringLiteral("Auftrag %1").arg(i, 6, 10, QLatin1Char('0')));
+            q.bindValue(1, types[i % 9]);
+            q.exec();
+        }
     }
     q.exec(QStringLiteral(
         "INSERT INTO tAutoJobSchedule (idAutoJob, Name, Aktiviert, FreqencyType, "
@@ -92,19 +109,21 @@ void makeJobs(const QString& path, int n) {
     agent.fillYears();
 }
 
-// One job with kHistoryRuns runs over five years, next to a few quiet ones.
-void makeHistory(const QString& path) {
+// One job with that many runs over five years, next to a few quiet ones.
+void makeHistory(const QString& path, qint64 runs) {
     makeJobs(path, 20);
     auto db = Database::open(path, std::make_shared<FixedClock>(kBenchNow));
     AgentOptions options;
     options.years = 5;
-    options.runsPerJob = kHistoryRuns;
+    options.runsPerJob = runs;
     options.logEntries = 1000;
     options.jobId = 1;
     JobAgentSimulator agent(db, options);
     agent.loadSchedules();
     agent.fillYears();
-    db->runScript(QStringLiteral("ANALYZE"));
+    if (!db->onServer()) {
+        db->runScript(QStringLiteral("ANALYZE"));  // on the server with the vacuum afterwards
+    }
 }
 
 QString dataSet(const QString& cache, const QString& name,
@@ -191,8 +210,14 @@ qint64 stepAll(sqlite3* db, const char* sql, qint64 limit, const QByteArray& bin
     return rows;
 }
 
-// Raw SQLite opening the file and reading the first screen of the list view, or all of it.
+// Raw SQLite opening the file and reading the first screen of the list view, or all of it;
+// on a server the same through QPSQL.
 int measureRawList(const QString& path, qint64 limit) {
+    if (PostgresAddress::isAddress(path)) {
+        const ScaleBenchServer::Timed r = ScaleBenchServer::rawList(path, limit);
+        report(r.ms, r.rows);
+        return 0;
+    }
     QElapsedTimer t;
     t.start();
     sqlite3* db = openRaw(path);
@@ -247,8 +272,14 @@ int measureProgramHistory(int argc, char* argv[], const QString& path) {
     return 0;
 }
 
-// The same rows by an index range scan in raw SQLite.
+// The same rows by an index range scan in raw SQLite, or by a plain query on the server.
 int measureRawHistory(const QString& path) {
+    if (PostgresAddress::isAddress(path)) {
+        const ScaleBenchServer::Timed r = ScaleBenchServer::rawHistory(
+            path, storedDateText(startOfUnitsBefore(DatePart::Week, kBenchNow, 2)));
+        report(r.ms, r.rows);
+        return 0;
+    }
     sqlite3* db = openRaw(path);
     const QByteArray start =
         storedDateText(startOfUnitsBefore(DatePart::Week, kBenchNow, 2)).toUtf8();
@@ -284,6 +315,12 @@ int measureProgramDelete(int argc, char* argv[], const QString& path) {
 }
 
 int measureRawDelete(const QString& path) {
+    if (PostgresAddress::isAddress(path)) {
+        const ScaleBenchServer::Timed r =
+            ScaleBenchServer::rawDelete(path, QString::fromUtf8(kDeleteHistory));
+        report(r.ms, r.rows);
+        return 0;
+    }
     sqlite3* db = openRaw(path);
     sqlite3_exec(db, "PRAGMA journal_mode=WAL", nullptr, nullptr, nullptr);
     sqlite3_exec(db, "PRAGMA synchronous=NORMAL", nullptr, nullptr, nullptr);
@@ -318,16 +355,14 @@ Result runChild(const QString& what, const QString& path) {
     return r;
 }
 
-// The median of several runs; peak memory the largest.
+// The median of several runs; peak memory the largest. restore, when given, puts the data
+// back before each run.
 Result measured(const QString& what, const QString& path, int repeat,
-                const QString& copyFrom = {}) {
+                const std::function<void()>& restore = {}) {
     QList<Result> all;
     for (int i = 0; i < repeat; ++i) {
-        if (!copyFrom.isEmpty()) {
-            QFile::remove(path);
-            QFile::remove(path + QStringLiteral("-wal"));
-            QFile::remove(path + QStringLiteral("-shm"));
-            QFile::copy(copyFrom, path);
+        if (restore) {
+            restore();
         }
         all << runChild(what, path);
     }
@@ -337,6 +372,25 @@ Result measured(const QString& what, const QString& path, int repeat,
         r.kb = std::max(r.kb, x.kb);
     }
     return r;
+}
+
+// A fresh copy of a data set file.
+std::function<void()> fileCopy(const QString& from, const QString& to) {
+    return [from, to] {
+        QFile::remove(to);
+        QFile::remove(to + QStringLiteral("-wal"));
+        QFile::remove(to + QStringLiteral("-shm"));
+        QFile::copy(from, to);
+    };
+}
+
+// 5000000 as "5.000.000".
+QString grouped(qint64 n) {
+    QString digits = QString::number(n);
+    for (qsizetype at = digits.size() - 3; at > 0; at -= 3) {
+        digits.insert(at, u'.');
+    }
+    return digits;
 }
 
 QString row(const QString& what, const QString& data, const Result& program, const Result& raw,
@@ -387,7 +441,8 @@ int main(int argc, char* argv[]) {
     QCoreApplication app(argc, argv);
     QCommandLineParser parser;
     parser.setApplicationDescription(QStringLiteral(
-        "Misst Auftragsliste und Verlauf auf großen Datenbanken gegen rohes SQLite."));
+        "Misst Auftragsliste und Verlauf auf großen Datenbanken gegen rohes SQLite, mit "
+        "--postgresql auf dem Server der PG*-Umgebung gegen rohe Abfragen über QPSQL."));
     parser.addHelpOption();
     const QCommandLineOption cacheOption(
         QStringLiteral("cache"), QStringLiteral("Ordner der Datensätze."), QStringLiteral("DIR"),
@@ -395,55 +450,91 @@ int main(int argc, char* argv[]) {
     const QCommandLineOption repeatOption(QStringLiteral("repeat"),
                                           QStringLiteral("Läufe je Messung (Median)."),
                                           QStringLiteral("N"), QStringLiteral("3"));
-    parser.addOptions({cacheOption, repeatOption});
+    const QCommandLineOption serverOption(
+        QStringLiteral("postgresql"),
+        QStringLiteral("Auf dem PostgreSQL-Server, den PGHOST, PGPORT und PGUSER nennen; die "
+                       "Datensätze sind dort Datenbanken ajv_bench_*."));
+    const QCommandLineOption historyOption(
+        QStringLiteral("history-runs"),
+        QStringLiteral("Läufe des Verlaufs-Datensatzes (Vorgabe %1).").arg(kHistoryRuns),
+        QStringLiteral("N"), QString::number(kHistoryRuns));
+    parser.addOptions({cacheOption, repeatOption, serverOption, historyOption});
     parser.process(app);
     const QString cache = parser.value(cacheOption);
     const int repeat = std::max(1, parser.value(repeatOption).toInt());
-    QDir().mkpath(cache);
+    const bool onServer = parser.isSet(serverOption);
+    const qint64 historyRuns = std::max<qint64>(1, parser.value(historyOption).toLongLong());
 
     try {
-        const QString jobs10k = dataSet(cache, QStringLiteral("jobs-10000.sqlite"),
-                                        [](const QString& p) { makeJobs(p, 10000); });
-        const QString jobs100k = dataSet(cache, QStringLiteral("jobs-100000.sqlite"),
-                                         [](const QString& p) { makeJobs(p, 100000); });
-        const QString history =
-            dataSet(cache, QStringLiteral("history-5000000.sqlite"), makeHistory);
-        const QString scratch = QDir(cache).filePath(QStringLiteral("scratch.sqlite"));
+        QString jobs0, jobs10k, jobs100k, history, scratch;
+        std::function<void()> restoreScratch, removeScratch;
+        auto jobs = [](int n) { return [n](const QString& p) { makeJobs(p, n); }; };
+        auto runs = [historyRuns](const QString& p) { makeHistory(p, historyRuns); };
+        if (onServer) {
+            namespace Server = ScaleBenchServer;
+            say(QStringLiteral("Server: %1").arg(Server::describe()));
+            jobs10k = Server::dataSet(QStringLiteral("ajv_bench_jobs_10000"), jobs(10000));
+            jobs100k = Server::dataSet(QStringLiteral("ajv_bench_jobs_100000"), jobs(100000));
+            const QString historyName = QStringLiteral("ajv_bench_history_%1").arg(historyRuns);
+            history = Server::dataSet(historyName, runs);
+            jobs0 = Server::dataSet(QStringLiteral("ajv_bench_jobs_0"), jobs(0));
+            const QString scratchName = QStringLiteral("ajv_bench_scratch");
+            scratch = Server::address(scratchName);
+            restoreScratch = [historyName, scratchName] { Server::copy(historyName, scratchName); };
+            removeScratch = [scratchName] { Server::drop(scratchName); };
+        } else {
+            QDir().mkpath(cache);
+            jobs10k = dataSet(cache, QStringLiteral("jobs-10000.sqlite"), jobs(10000));
+            jobs100k = dataSet(cache, QStringLiteral("jobs-100000.sqlite"), jobs(100000));
+            history = dataSet(cache, QStringLiteral("history-%1.sqlite").arg(historyRuns), runs);
+            // What the start costs without data: the program, its windows and the database,
+            // so that what the jobs add stands apart.
+            jobs0 = dataSet(cache, QStringLiteral("jobs-0.sqlite"), jobs(0));
+            scratch = QDir(cache).filePath(QStringLiteral("scratch.sqlite"));
+            restoreScratch = fileCopy(history, scratch);
+            removeScratch = [scratch] {
+                QFile::remove(scratch);
+                QFile::remove(scratch + QStringLiteral("-wal"));
+                QFile::remove(scratch + QStringLiteral("-shm"));
+            };
+        }
+        const QString historyData = QStringLiteral("%1 Läufe").arg(grouped(historyRuns));
 
-        QStringList table{QStringLiteral("| was | Daten | Programm | rohes SQLite | Verhältnis | "
-                                         "Ziel | Spitzenspeicher Programm / roh |"),
-                          QStringLiteral("|---|---|---|---|---|---|---|")};
+        QStringList table{
+            QStringLiteral("| was | Daten | Programm | %1 | Verhältnis | Ziel | Spitzenspeicher "
+                           "Programm / roh |")
+                .arg(onServer ? QStringLiteral("roh: PostgreSQL über QPSQL")
+                              : QStringLiteral("rohes SQLite")),
+            QStringLiteral("|---|---|---|---|---|---|---|")};
         for (const auto& [name, path] : {std::pair{QStringLiteral("10.000 Aufträge"), jobs10k},
-                                         std::pair{QStringLiteral("100.000 Aufträge"), jobs100k}}) {
+                                         std::pair{QStringLiteral("100.000 Aufträge"), jobs100k},
+                                         std::pair{QStringLiteral("0 Aufträge"), jobs0}}) {
             table << row(QStringLiteral("Start bis die Liste steht"), name,
                          measured(QStringLiteral("program-start"), path, repeat),
                          measured(QStringLiteral("raw-list"), path, repeat), 2.0);
         }
-        // What the start costs without data: the program, its windows and the database, so
-        // that what the jobs add stands apart.
-        const QString jobs0 = dataSet(cache, QStringLiteral("jobs-0.sqlite"),
-                                      [](const QString& p) { makeJobs(p, 0); });
-        table << row(QStringLiteral("Start bis die Liste steht"), QStringLiteral("0 Aufträge"),
-                     measured(QStringLiteral("program-start"), jobs0, repeat),
-                     measured(QStringLiteral("raw-list"), jobs0, repeat), 2.0);
         // The start against a reading of every row of the view.
         table << row(QStringLiteral("Start gegen alle Zeilen der Listenansicht"),
                      QStringLiteral("100.000 Aufträge"),
                      measured(QStringLiteral("program-start"), jobs100k, repeat),
                      measured(QStringLiteral("raw-list-all"), jobs100k, repeat), 2.0);
-        table << row(QStringLiteral("Verlauf eines Auftrags, 2 Wochen, alle"),
-                     QStringLiteral("5.000.000 Läufe"),
+        table << row(QStringLiteral("Verlauf eines Auftrags, 2 Wochen, alle"), historyData,
                      measured(QStringLiteral("program-history"), history, repeat),
                      measured(QStringLiteral("raw-history"), history, repeat), 2.0);
         table << row(
-            QStringLiteral("\"Verlauf löschen\" und Verlauf neu"),
-            QStringLiteral("5.000.000 Läufe"),
-            measured(QStringLiteral("program-delete"), scratch, std::min(repeat, 2), history),
-            measured(QStringLiteral("raw-delete"), scratch, std::min(repeat, 2), history), 1.2);
-        QFile::remove(scratch);
-        QFile::remove(scratch + QStringLiteral("-wal"));
-        QFile::remove(scratch + QStringLiteral("-shm"));
+            QStringLiteral("\"Verlauf löschen\" und Verlauf neu"), historyData,
+            measured(QStringLiteral("program-delete"), scratch, std::min(repeat, 2),
+                     restoreScratch),
+            measured(QStringLiteral("raw-delete"), scratch, std::min(repeat, 2), restoreScratch),
+            1.2);
+        removeScratch();
         say(QString());
+        if (onServer) {
+            say(QStringLiteral(
+                    "roh: dieselbe Arbeit als Abfrage über QtSqls QPSQL-Treiber auf derselben "
+                    "Datenbank; die erste Bildschirmseite der Liste mit LIMIT %1.")
+                    .arg(kScreenRows));
+        }
         say(table.join(u'\n'));
     } catch (const RaisedError& e) {
         say(QStringLiteral("FEHLER %1").arg(e.err().Description));
