@@ -212,27 +212,27 @@ void DatabaseRecordset::Update(long mode, bool) {
     reloadRow(row);
 }
 
-void DatabaseRecordset::insertRow(Row& row) {
-    QStringList names;
-    QVariantList values;
+void DatabaseRecordset::writtenColumns(const Row& row, QStringList& names,
+                                       QVariantList& values) const {
     for (qsizetype c = 0; c < columns_.size(); ++c) {
         if (row.written[c]) {
             names << columns_[c].stored;
             values << row.values[c];
         }
     }
+}
+
+void DatabaseRecordset::insertRow(Row& row) {
+    QStringList names;
+    QVariantList values;
+    writtenColumns(row, names, values);
     row.locator = backend().insert(connection(), *table_, names, values);
 }
 
 void DatabaseRecordset::updateRow(Row& row) {
     QStringList names;
     QVariantList values;
-    for (qsizetype c = 0; c < columns_.size(); ++c) {
-        if (row.written[c]) {
-            names << columns_[c].stored;
-            values << row.values[c];
-        }
-    }
+    writtenColumns(row, names, values);
     const auto locator = backend().update(connection(), *table_, names, values, row.locator);
     if (!locator) {
         throw SqlErrors::raised(

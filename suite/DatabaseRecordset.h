@@ -81,6 +81,8 @@ class DatabaseRecordset : public CRecordset {
     void requireUpdatable() const;
     bool pending(const Row& row) const;
     void savePending();
+    // The columns written in the row, with their values.
+    void writtenColumns(const Row& row, QStringList& names, QVariantList& values) const;
     void insertRow(Row& row);
     void updateRow(Row& row);
     void reloadRow(Row& row);

@@ -2,6 +2,8 @@
 
 #include <sqlite3.h>
 
+#include <QApplication>
+#include <QDir>
 #include <QMenu>
 #include <QMenuBar>
 #include <QTest>
@@ -57,4 +59,30 @@ void ProgramFixture::chooseMenu(const QString& menu, const QString& item) {
     QTest::mouseClick(bar, Qt::LeftButton, {}, bar->actionGeometry(popup->menuAction()).center());
     ASSERT_TRUE(real_input::waitFor([popup] { return popup->isVisible(); }, 3000));
     ASSERT_TRUE(real_input::clickMenuItem(popup, item)) << item.toStdString();
+}
+
+void ProgramFixture::saveNewJobFromTheMenu(const QString& name) {
+    const QString importDir = root() + QStringLiteral("/import");
+    const QString logDir = root() + QStringLiteral("/log");
+    QDir().mkpath(importDir);
+    QDir().mkpath(logDir);
+    bool done = false;
+    real_input::whenShown(QStringLiteral("frmEigenschaften"), [&](QWidget* w) {
+        using real_input::find;
+        real_input::typeOver(find(w, QStringLiteral("txtTextBox(0)")), name);
+        // The first client and the first staff member, picked with the arrow key.
+        for (const char* selection : {"ctlMandant", "ctlMitarbeiterBuchProp"}) {
+            QWidget* combo = find(w, QString::fromLatin1(selection));
+            real_input::click(combo);
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+            QTest::keyClick(combo, Qt::Key_Down);
+        }
+        real_input::typeOver(find(w, QStringLiteral("txtTextBox(3)")), importDir);
+        real_input::typeOver(find(w, QStringLiteral("txtTextBox(4)")), logDir);
+        boxes_->answerNext(QStringLiteral("Nein"));
+        real_input::click(find(w, QStringLiteral("cmdCommandButton(0)")));
+        done = true;
+    });
+    chooseMenu(QStringLiteral("Bearbeiten"), QStringLiteral("Neu"));
+    ASSERT_TRUE(real_input::waitFor([&] { return done; }));
 }

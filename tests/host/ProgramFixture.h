@@ -28,6 +28,9 @@ class ProgramFixture : public ::testing::Test {
     QString scalar(const QString& sql);
     // Opens a menu of the main window's menu bar and clicks its item.
     void chooseMenu(const QString& menu, const QString& item);
+    // Bearbeiten → Neu, then a customers import named so, for the first client and staff
+    // member, with its two folders made; "OK", and "Nein" to the backup question.
+    void saveNewJobFromTheMenu(const QString& name);
 
     QTemporaryDir dir_;
     std::shared_ptr<SuiteConfig> config_;

@@ -60,29 +60,9 @@ TEST_F(DesktopProgramTest, DoubleClickOpensTheJobAndUebernehmenStoresTheDescript
 }
 
 TEST_F(DesktopProgramTest, NewJobFromTheMenuIsSaved) {
-    const QString importDir = root() + QStringLiteral("/import");
-    const QString logDir = root() + QStringLiteral("/log");
-    QDir().mkpath(importDir);
-    QDir().mkpath(logDir);
     const QString before = scalar(QStringLiteral("SELECT count(*) FROM tAutoJobJob"));
-    bool done = false;
-    whenShown(QStringLiteral("frmEigenschaften"), [&](QWidget* w) {
-        typeOver(find(w, QStringLiteral("txtTextBox(0)")), QStringLiteral("Kunden Neu"));
-        // The first client and the first staff member, picked with the arrow key.
-        for (const char* selection : {"ctlMandant", "ctlMitarbeiterBuchProp"}) {
-            QWidget* combo = find(w, QString::fromLatin1(selection));
-            click(combo);
-            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
-            QTest::keyClick(combo, Qt::Key_Down);
-        }
-        typeOver(find(w, QStringLiteral("txtTextBox(3)")), importDir);
-        typeOver(find(w, QStringLiteral("txtTextBox(4)")), logDir);
-        boxes_->answerNext(QStringLiteral("Nein"));
-        click(find(w, QStringLiteral("cmdCommandButton(0)")));
-        done = true;
-    });
-    chooseMenu(QStringLiteral("Bearbeiten"), QStringLiteral("Neu"));
-    ASSERT_TRUE(waitFor([&] { return done; }));
+    saveNewJobFromTheMenu(QStringLiteral("Kunden Neu"));
+    const QString importDir = root() + QStringLiteral("/import");
 
     EXPECT_EQ(boxes_->shown().size(), 1) << boxes_->shown().join(u'|').toStdString();
     EXPECT_EQ(scalar(QStringLiteral("SELECT count(*) FROM tAutoJobJob")).toInt(),

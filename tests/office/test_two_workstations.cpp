@@ -109,27 +109,7 @@ TEST_F(TwoWorkstations, WhatEitherSavesTheOtherSeesAndTheStampsTellWho) {
     EXPECT_EQ(list()->model()->rowCount(), 14);
 
     // ... and saves a job of its own.
-    const QString importDir = root() + QStringLiteral("/import");
-    const QString logDir = root() + QStringLiteral("/log");
-    QDir().mkpath(importDir);
-    QDir().mkpath(logDir);
-    bool saved = false;
-    whenShown(QStringLiteral("frmEigenschaften"), [&](QWidget* w) {
-        typeOver(find(w, QStringLiteral("txtTextBox(0)")), QStringLiteral("Kunden vom Platz 1"));
-        for (const char* selection : {"ctlMandant", "ctlMitarbeiterBuchProp"}) {
-            QWidget* combo = find(w, QString::fromLatin1(selection));
-            click(combo);
-            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
-            QTest::keyClick(combo, Qt::Key_Down);
-        }
-        typeOver(find(w, QStringLiteral("txtTextBox(3)")), importDir);
-        typeOver(find(w, QStringLiteral("txtTextBox(4)")), logDir);
-        boxes_->answerNext(QStringLiteral("Nein"));
-        click(find(w, QStringLiteral("cmdCommandButton(0)")));
-        saved = true;
-    });
-    chooseMenu(QStringLiteral("Bearbeiten"), QStringLiteral("Neu"));
-    ASSERT_TRUE(waitFor([&] { return saved; }));
+    saveNewJobFromTheMenu(QStringLiteral("Kunden vom Platz 1"));
     EXPECT_GT(rowShowing(list(), QStringLiteral("Name"), QStringLiteral("Kunden vom Platz 1")), 0);
 
     // The second workstation finds it among all jobs.
