@@ -19,6 +19,8 @@ fi
 [ -f "$deb" ] || fail "no package: $deb"
 
 depends=$(dpkg-deb -f "$deb" Depends)
+recommends=$(dpkg-deb -f "$deb" Recommends)
+grep -q "libqt6sql6-psql" <<<"$recommends" || fail "Recommends lacks libqt6sql6-psql: $recommends"
 for needed in libqt6widgets6 libqt6sql6-sqlite libsqlite3-0 qt6-qpa-plugins; do
   grep -q "$needed" <<<"$depends" || fail "Depends lacks $needed: $depends"
 done
