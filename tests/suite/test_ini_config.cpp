@@ -123,6 +123,14 @@ TEST_F(SuiteConfigTest, FileOverridesOnlyWhatItHolds) {
     EXPECT_EQ(c.docName, QString::fromUtf8("Aufträge"));
 }
 
+TEST_F(SuiteConfigTest, ADatabaseOnAServerIsNamedByItsAddressAsWritten) {
+    writeFile(file(),
+              "[Suite]\nDatenbank=postgresql://kanzlei@server:5433/auftraege"
+              "?sslmode=require&connect_timeout=5\n");
+    EXPECT_EQ(SuiteConfig::load(file()).databasePath,
+              "postgresql://kanzlei@server:5433/auftraege?sslmode=require&connect_timeout=5");
+}
+
 TEST_F(SuiteConfigTest, NumbersThatAreNoNumbersKeepTheDefaultAndTraceZeroIsOff) {
     writeFile(file(), "[Suite]\nInstallationsart=lokal\nTrace=0\n[Dokument]\nManId=\n");
     const SuiteConfig c = SuiteConfig::load(file());
