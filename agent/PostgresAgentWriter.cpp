@@ -51,10 +51,8 @@ PostgresAgentWriter::PostgresAgentWriter(const Database& database)
 }
 
 void PostgresAgentWriter::execute(const QString& sql, const QString& shown) {
-    QSqlQuery query(db_);
-    if (!query.exec(sql)) {
-        throw backend_.failure(query.lastError(), shown);
-    }
+    // A connection the server dropped is opened again there, so that the next run is written.
+    runSql(backend_, db_, sql, {}, shown);
 }
 
 void PostgresAgentWriter::begin() {

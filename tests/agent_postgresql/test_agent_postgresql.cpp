@@ -193,6 +193,25 @@ TEST_F(AgentOnServer, ALiveRunIsOneTransactionAtTheMomentNow) {
     ASSERT_TRUE(agent.runOnce());
     EXPECT_EQ(count("SELECT count(*) FROM tAutoJobVerlauf"), before.runs + 1);
     EXPECT_EQ(count("SELECT count(*) FROM SYS_JobAgentLogDaten"), agent.counts().logEntries);
+
+    // The server drops the agent's connection: that run is reported, the next one is written.
+    {
+        QSqlDatabase admin =
+            QSqlDatabase::addDatabase(QStringLiteral("QPSQL"), QStringLiteral("agent_admin"));
+        admin.setDatabaseName(QStringLiteral("postgres"));
+        ASSERT_TRUE(admin.open());
+        EXPECT_TRUE(QSqlQuery(admin).exec(
+            QStringLiteral("SELECT pg_terminate_backend(pid) FROM pg_stat_activity WHERE datname "
+                           "= '%1' AND application_name = 'autojobverw'")
+                .arg(server.address().section(u'/', -1))));
+        admin.close();
+    }
+    QSqlDatabase::removeDatabase(QStringLiteral("agent_admin"));
+    const AgentCounts beforeCut = agent.counts();
+    EXPECT_THROW(agent.runOnce(), RaisedError);
+    ASSERT_TRUE(agent.runOnce());
+    EXPECT_EQ(agent.counts().runs, beforeCut.runs + 1);
+    EXPECT_EQ(count("SELECT count(*) FROM tAutoJobVerlauf"), agent.counts().runs);
 }
 
 // The program as it is started, on the database's address.
