@@ -42,7 +42,13 @@ QString cause(const QString& path, long number) {
 }
 
 // A database on a server: no file to blame, the server, the network or the login.
-QString serverCause(long number) {
+QString serverCause(long number, const QString& message) {
+    if (number == kCantOpen && message.contains(u"database") &&
+        (message.contains(u"does not exist") || message.contains(u"existiert nicht"))) {
+        return QStringLiteral(
+            "Diese Datenbank gibt es auf dem Server nicht. Bitte prüfen Sie ihren Namen; eine "
+            "neue Datenbank für das Büro legt der Verwalter des Servers an.");
+    }
     if (number == kReadOnly) {
         return QStringLiteral(
             "Die Datenbank kann nur gelesen werden. Ohne Schreibrecht können Aufträge und "
@@ -65,7 +71,7 @@ QString databaseOpenFailureText(const QString& path, const ErrObject& error) {
     QString why;
     if (PostgresAddress::isAddress(path)) {
         shown = PostgresAddress::withoutPassword(path);
-        why = serverCause(error.Number);
+        why = serverCause(error.Number, message);
     } else {
         why = cause(path, error.Number);
     }
