@@ -2,9 +2,13 @@
 // file. Usage:
 //
 //   build/ajv_bench_logdaten [--db FILE] [--rows N] [--neu]
+//   build/ajv_bench_logdaten --postgresql [--rows N] [--neu]
 //
 // The log is built once (FILE, by default /tmp/ajv_bench_logdaten.sqlite) and used again while
 // it has N entries; --neu builds it anew. The deleted months are written back at the end.
+// With --postgresql the viewer works on the server the PG* environment names, on the database
+// ajv_bench_logdaten_N kept there between runs, against plain queries through QtSql's QPSQL
+// driver on the same database.
 #include <sys/wait.h>
 #include <unistd.h>
 #include <QCoreApplication>
@@ -14,10 +18,15 @@
 #include <algorithm>
 #include <cstdio>
 #include <functional>
+#include <optional>
 
 #include "bench/BenchLogData.h"
+#include "bench/BenchLogDataServer.h"
+#include "bench/BenchRawPostgres.h"
 #include "bench/BenchRawSqlite.h"
+#include "bench/scale/ScaleBenchServer.h"
 #include "common/Clock.h"
+#include "common/ErrObject.h"
 #include "common/Recordset.h"
 #include "common/Services.h"
 #include "headless/HeadlessBrowser.h"
@@ -124,12 +133,85 @@ void line(const char* what, double ours, double raw, const char* target) {
     std::printf("%-40s %10.2f ms %10.2f ms %8.2fx   %s\n", what, ours, raw, ours / raw, target);
 }
 
+// The yardstick of a run: SQLite itself on the file, or the server through QPSQL.
+struct Raw {
+    const char* name;
+    // The view's date column as the database writes it.
+    QString dateColumn;
+    std::function<long long(const QString&)> run;
+    std::function<long long(const QString&)> number;
+    // Writes deleted entries from..to again.
+    std::function<void(long long, long long)> fill;
+    // Runs once after everything deleted was written again.
+    std::function<void()> settle = [] {};
+    // Runs before each delete, untimed.
+    std::function<void()> beforeDelete = [] {};
+    // Whether the far row is also read with a plain OFFSET on the view.
+    bool offsetScan = true;
+    // How many months are deleted (up to eight), alternately by the viewer and the raw side.
+    int deleteMonths = 4;
+};
+
+int measure(const QString& path, const QString& emptyPath, Raw& raw, long long total);
+
+// The log as a database of its own on the server, built when the server does not have it
+// whole.
+int onServer(long long total, bool anew) {
+    namespace Server = ScaleBenchServer;
+    std::printf("Server: %s\n", qPrintable(Server::describe()));
+    const QString name = QStringLiteral("ajv_bench_logdaten_%1").arg(total);
+    if (!anew) {
+        // A run broken off before the deleted months were written back leaves fewer entries.
+        bool whole = true;
+        try {
+            whole =
+                RawPostgres(Server::address(name))
+                    .number(QStringLiteral("SELECT count(*) FROM SYS_JobAgentLogDaten")) == total;
+        } catch (const RaisedError&) {
+        }
+        anew = !whole;
+    }
+    if (anew) {
+        Server::drop(name);
+    }
+    const QString address = Server::dataSet(
+        name, [total](const QString& partial) { BenchLogDataServer::create(partial, total); });
+    const QString emptyAddress =
+        Server::dataSet(QStringLiteral("ajv_bench_logdaten_0"), [](const QString& partial) {
+            Database::open(partial, std::make_shared<SystemClock>())->applySchema();
+        });
+    RawPostgres db(address);
+    Raw raw{"PostgreSQL", QStringLiteral("\"datum/uhrzeit\""),
+            [&db](const QString& sql) { return db.run(sql); },
+            [&db](const QString& sql) { return db.number(sql); },
+            [&db, total](long long from, long long to) {
+                BenchLogDataServer::fill(db, from, to, total);
+            },
+            [&db] { BenchLogDataServer::settle(db); },
+            // Each delete starts after a checkpoint, so that both sides write every page they
+            // change whole into the log and neither profits from the other's checkpoint.
+            [&db] { db.run(QStringLiteral("CHECKPOINT")); },
+            // The server works out the view's per-row lookups for every row an OFFSET skips
+            // (about a minute a run at five million); the keyed statement is the one to
+            // compare with.
+            false,
+            // One delete on the server takes up to half as long again as the next: the best of
+            // four a side is steadier.
+            8};
+    std::printf(
+        "viewer on %s against plain queries through QtSql's QPSQL driver on the same "
+        "database\n",
+        qPrintable(address));
+    return measure(address, emptyAddress, raw, total);
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
     QString path = QStringLiteral("/tmp/ajv_bench_logdaten.sqlite");
     long long total = 10000000;
     bool anew = false;
+    bool server = false;
     for (int i = 1; i < argc; ++i) {
         const QString a = QString::fromLocal8Bit(argv[i]);
         if (a == u"--db" && i + 1 < argc) {
@@ -138,9 +220,21 @@ int main(int argc, char** argv) {
             total = QString::fromLocal8Bit(argv[++i]).toLongLong();
         } else if (a == u"--neu") {
             anew = true;
+        } else if (a == u"--postgresql") {
+            server = true;
         } else {
-            std::fprintf(stderr, "usage: %s [--db FILE] [--rows N] [--neu]\n", argv[0]);
+            std::fprintf(stderr, "usage: %s [--db FILE | --postgresql] [--rows N] [--neu]\n",
+                         argv[0]);
             return 2;
+        }
+    }
+    if (server) {
+        QCoreApplication app(argc, argv);
+        try {
+            return onServer(total, anew);
+        } catch (const RaisedError& e) {
+            std::fprintf(stderr, "%s\n", e.what());
+            return 1;
         }
     }
     const QString emptyPath = path + QStringLiteral(".leer");
@@ -173,6 +267,26 @@ int main(int argc, char** argv) {
     }
 
     QCoreApplication app(argc, argv);
+    // Opened at its first use, after the viewer on the empty log was measured.
+    std::optional<RawSqlite> opened;
+    const auto file = [&]() -> RawSqlite& {
+        if (!opened) {
+            opened.emplace(path);
+        }
+        return *opened;
+    };
+    Raw raw{"SQLite", QStringLiteral("[Datum/Uhrzeit]"),
+            [&file](const QString& sql) { return file().run(sql); },
+            [&file](const QString& sql) { return file().number(sql); },
+            [&file, total](long long from, long long to) {
+                BenchLogData::fill(file(), from, to, total);
+            }};
+    return measure(path, emptyPath, raw, total);
+}
+
+namespace {
+
+int measure(const QString& path, const QString& emptyPath, Raw& raw, long long total) {
     HeadlessWindowFactory factory;
 
     // The viewer on an empty log: what the program needs anyway.
@@ -192,14 +306,13 @@ int main(int argc, char** argv) {
     Services s;
     s.newRecordset = db->recordsetFactory();
     ScopedServices scope(s);
-    RawSqlite raw(path);
     const QString view = QStringLiteral("SELECT * FROM SYS_JobAgentLogDaten_Anzeigen ") + kRawWhere;
     const long long shown = raw.number(
         QStringLiteral("SELECT count(*) FROM SYS_JobAgentLogDaten WHERE LogTyp IN (1, 3)"));
     raw.run(QStringLiteral("DELETE FROM tBrowserEinstellungen"));
     std::printf("\n%lld log entries, %lld in the service log; a screen is %d rows\n\n", total,
                 shown, kScreen);
-    std::printf("%-40s %13s %13s %9s   %s\n", "", "viewer", "SQLite", "ratio", "target");
+    std::printf("%-40s %13s %13s %9s   %s\n", "", "viewer", raw.name, "ratio", "target");
 
     // First screen: count and the first rows.
     const double firstOurs = best(3, [&] {
@@ -233,18 +346,32 @@ int main(int argc, char** argv) {
         best(3, [&] { raw.run(view + QStringLiteral(" ORDER BY Id DESC LIMIT %1").arg(kScreen)); });
     line("jump to the last row", lastOurs, lastRaw, "<= 1.5x");
 
-    const double sortOurs = best(3, [&] {
-        v->browser->sortBy(QStringLiteral("Datum/Uhrzeit"), false);
-        v->show(1);
-        v->browser->sortBy(QStringLiteral("Datum/Uhrzeit"), true);
-        v->show(1);
-    });
+    // A statement the database refuses is shown in place of the figure, and the bench goes on.
+    QString sortFailed;
+    double sortOurs = 0;
+    try {
+        sortOurs = best(3, [&] {
+            v->browser->sortBy(QStringLiteral("Datum/Uhrzeit"), false);
+            v->show(1);
+            v->browser->sortBy(QStringLiteral("Datum/Uhrzeit"), true);
+            v->show(1);
+        });
+    } catch (const RaisedError& e) {
+        sortFailed = QString::fromUtf8(e.what()).section(u'\n', 0, 0);
+    }
     const double sortRaw = best(3, [&] {
+        raw.run(
+            view +
+            QStringLiteral(" ORDER BY %1 DESC, Id DESC LIMIT %2").arg(raw.dateColumn).arg(kScreen));
         raw.run(view +
-                QStringLiteral(" ORDER BY [Datum/Uhrzeit] DESC, Id DESC LIMIT %1").arg(kScreen));
-        raw.run(view + QStringLiteral(" ORDER BY [Datum/Uhrzeit], Id LIMIT %1").arg(kScreen));
+                QStringLiteral(" ORDER BY %1, Id LIMIT %2").arg(raw.dateColumn).arg(kScreen));
     });
-    line("sort by \"Datum/Uhrzeit\"", sortOurs, sortRaw, "");
+    if (sortFailed.isEmpty()) {
+        line("sort by \"Datum/Uhrzeit\"", sortOurs, sortRaw, "");
+    } else {
+        std::printf("%-40s %13s %10.2f ms            the viewer failed: %s\n",
+                    "sort by \"Datum/Uhrzeit\"", "-", sortRaw, qPrintable(sortFailed));
+    }
     raw.run(QStringLiteral("DELETE FROM tBrowserEinstellungen"));
 
     // The details window reads the current row's columns: row 5,000,000 of the job log.
@@ -266,7 +393,7 @@ int main(int argc, char** argv) {
         freshJobs);
     const QString jobView =
         QStringLiteral("SELECT * FROM SYS_JobAgentLogDaten_Anzeigen WHERE Typ = 2");
-    const double farRaw = best(3, [&] {
+    const double farRaw = !raw.offsetScan ? 1e300 : best(3, [&] {
         raw.run(jobView + QStringLiteral(" ORDER BY Id LIMIT 1 OFFSET %1").arg(far - 1));
     });
     const double farRawKeyed = best(3, [&] {
@@ -281,22 +408,22 @@ int main(int argc, char** argv) {
                                                       "LogTyp = 2 ORDER BY Id LIMIT 1 OFFSET %1")
                                            .arg(far - 1));
     if (ourId.toLongLong() != rawId) {
-        std::printf("  MISMATCH: the viewer read entry %lld, SQLite %lld\n", ourId.toLongLong(),
-                    rawId);
+        std::printf("  MISMATCH: the viewer read entry %lld, %s %lld\n", ourId.toLongLong(),
+                    raw.name, rawId);
     }
     const long viewerPeak = statusKb("VmHWM:");
 
-    // Deleting a month: the viewer's statement through the record set, and SQLite's DELETE,
-    // each on months of 31 days, the best of two.
-    const char* months[][2] = {{"2023-01-01", "2023-01-31"},
-                               {"2023-03-01", "2023-03-31"},
-                               {"2023-05-01", "2023-05-31"},
-                               {"2023-07-01", "2023-07-31"}};
+    // Deleting a month: the viewer's statement through the record set, and the raw DELETE,
+    // each on months of 31 days, the best of two (of four on the server).
+    const char* months[][2] = {{"2023-01-01", "2023-01-31"}, {"2023-03-01", "2023-03-31"},
+                               {"2023-05-01", "2023-05-31"}, {"2023-07-01", "2023-07-31"},
+                               {"2023-08-01", "2023-08-31"}, {"2023-10-01", "2023-10-31"},
+                               {"2023-12-01", "2023-12-31"}, {"2024-01-01", "2024-01-31"}};
     QList<QPair<long long, long long>> deleted;
     double delOurs = 1e300;
     double delRaw = 1e300;
     long long delRows = 0;
-    for (int m = 0; m < 4; ++m) {
+    for (int m = 0; m < raw.deleteMonths; ++m) {
         const QString where =
             QStringLiteral("(DatumUhrzeit BETWEEN '%1 00:00:00' AND '%2 23:59:59')")
                 .arg(QLatin1String(months[m][0]), QLatin1String(months[m][1]));
@@ -305,6 +432,7 @@ int main(int argc, char** argv) {
              raw.number(QStringLiteral("SELECT max(Id) FROM SYS_JobAgentLogDaten WHERE ") +
                         where)});
         const QString statement = QStringLiteral("DELETE FROM SYS_JobAgentLogDaten WHERE ") + where;
+        raw.beforeDelete();
         if (m % 2 == 0) {
             delOurs = std::min(delOurs, millis([&] {
                                    auto rs = services().newRecordset();
@@ -319,8 +447,9 @@ int main(int argc, char** argv) {
     line(qPrintable(QStringLiteral("delete one month (%1 rows)").arg(delRows)), delOurs, delRaw,
          "<= 1.1x");
     for (const auto& [from, to] : deleted) {
-        BenchLogData::fill(raw, from, to, total);
+        raw.fill(from, to);
     }
+    raw.settle();
 
     std::printf(
         "\npeak memory: %.1f MB with an empty log, %.1f MB with %lld entries: "
@@ -328,3 +457,5 @@ int main(int argc, char** argv) {
         emptyPeak / 1024.0, viewerPeak / 1024.0, total, (viewerPeak - emptyPeak) / 1024.0);
     return 0;
 }
+
+}  // namespace
