@@ -494,8 +494,10 @@ CREATE TABLE SYS_JobAgentLogDaten (
     Text            text,
     Zusatz          text
 );
--- Browsing and deleting filter by period, kind, job and job type.
-CREATE INDEX ixJobAgentLogDaten_DatumUhrzeit ON SYS_JobAgentLogDaten (DatumUhrzeit);
+-- Browsing and deleting filter by period, kind, job and job type. The viewer sorts by time
+-- with NULLs first when ascending and last when descending, as SQLite orders them, so the
+-- index keeps NULLs first: it then serves the sort both ways.
+CREATE INDEX ixJobAgentLogDaten_DatumUhrzeit ON SYS_JobAgentLogDaten (DatumUhrzeit NULLS FIRST);
 CREATE INDEX ixJobAgentLogDaten_AutoJobId ON SYS_JobAgentLogDaten (AutoJobId);
 CREATE INDEX ixJobAgentLogDaten_JobArt ON SYS_JobAgentLogDaten (JobArt);
 CREATE INDEX ixJobAgentLogDaten_LogTyp ON SYS_JobAgentLogDaten (LogTyp, DatumUhrzeit);

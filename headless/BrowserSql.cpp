@@ -14,8 +14,17 @@ QString from(const QString& query) {
 
 QString orderBy(const Order& order) {
     QStringList parts;
-    for (const QString& c : order.columns) {
-        parts << name(c) + (order.ascending ? QStringLiteral(" ASC") : QStringLiteral(" DESC"));
+    for (qsizetype i = 0; i < order.columns.size(); ++i) {
+        QString part = name(order.columns[i]) +
+                       (order.ascending ? QStringLiteral(" ASC") : QStringLiteral(" DESC"));
+        // NULLs first in an ascending order, last in a descending one, on every database (the
+        // places of rows are counted so, see relation()); SQLite does it by itself, PostgreSQL
+        // the other way round. The key behind is never NULL.
+        if (i + 1 < order.columns.size()) {
+            part +=
+                order.ascending ? QStringLiteral(" NULLS FIRST") : QStringLiteral(" NULLS LAST");
+        }
+        parts << part;
     }
     return QStringLiteral(" ORDER BY ") + parts.join(QStringLiteral(", "));
 }
@@ -131,7 +140,8 @@ QString countWhere(const QString& query, const QString& condition, int limit) {
         return count(query) + QStringLiteral(" WHERE ") + condition;
     }
     return QStringLiteral("SELECT count(*) AS Anzahl FROM (SELECT 1") + from(query) +
-           QStringLiteral(" WHERE ") + condition + window(limit, 0) + u')';
+           QStringLiteral(" WHERE ") + condition + window(limit, 0) +
+           QStringLiteral(") AS ajvVorher");
 }
 
 QString firstKeyWhere(const QString& query, const Order& order, const QString& condition) {
