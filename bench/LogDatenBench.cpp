@@ -360,11 +360,13 @@ int measure(const QString& path, const QString& emptyPath, Raw& raw, long long t
         sortFailed = QString::fromUtf8(e.what()).section(u'\n', 0, 0);
     }
     const double sortRaw = best(3, [&] {
-        raw.run(
-            view +
-            QStringLiteral(" ORDER BY %1 DESC, Id DESC LIMIT %2").arg(raw.dateColumn).arg(kScreen));
-        raw.run(view +
-                QStringLiteral(" ORDER BY %1, Id LIMIT %2").arg(raw.dateColumn).arg(kScreen));
+        // The viewer's order on every database: NULLs first ascending, last descending.
+        raw.run(view + QStringLiteral(" ORDER BY %1 DESC NULLS LAST, Id DESC LIMIT %2")
+                           .arg(raw.dateColumn)
+                           .arg(kScreen));
+        raw.run(view + QStringLiteral(" ORDER BY %1 NULLS FIRST, Id LIMIT %2")
+                           .arg(raw.dateColumn)
+                           .arg(kScreen));
     });
     if (sortFailed.isEmpty()) {
         line("sort by \"Datum/Uhrzeit\"", sortOurs, sortRaw, "");
