@@ -23,14 +23,23 @@ class PostgresAgentWriter : public AgentWriter {
     void writeLog(const AgentLogEntry& entry) override;
 
   private:
-    void flushRuns();
-    void flushLogs();
+    // The rows of one table gathered for one INSERT.
+    struct Batch {
+        QString insert;  // "INSERT INTO ... VALUES "
+        QString text;    // the statement so far, empty without a row
+        int rows = 0;
+        void clear() {
+            text.truncate(0);
+            rows = 0;
+        }
+    };
+    // Adds a row of values, already written as SQL, and sends the batch when it is full.
+    void add(Batch& batch, const QStringList& values);
+    void flush(Batch& batch);
     void execute(const QString& sql, const QString& shown);
 
     QSqlDatabase db_;
     const SqlBackend& backend_;
-    QString runs_;  // the INSERT of the runs gathered so far
-    int runCount_ = 0;
-    QString logs_;
-    int logCount_ = 0;
+    Batch runs_;
+    Batch logs_;
 };
