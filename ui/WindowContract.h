@@ -45,6 +45,12 @@ class WindowContract : public HostObject {
     T& get(const QString& name, int index = -1) {
         return window_->get<T>(name, index);
     }
+    // The window's control events go to onControl, its other events as given.
+    void listen(WindowEvents events = {}) {
+        events.onControl = [this](const ControlEvent& e) { onControl(e); };
+        window_->setEvents(std::move(events));
+    }
+    virtual void onControl(const ControlEvent&) {}
 
   private:
     std::unique_ptr<IWindow> window_;

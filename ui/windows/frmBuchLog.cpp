@@ -34,9 +34,7 @@ const WindowDecl& frmBuchLog::declaration() {
 }
 
 frmBuchLog::frmBuchLog(std::unique_ptr<IWindow> w) : WindowContract(std::move(w)) {
-    WindowEvents events;
-    events.onControl = [this](const ControlEvent& e) { onControl(e); };
-    window().setEvents(std::move(events));
+    listen();
     // The address shows where the files lie; it is not typed into.
     txtTextBox().setLocked(true);
 }

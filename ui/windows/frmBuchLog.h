@@ -24,5 +24,5 @@ class frmBuchLog : public WindowContract {
     std::function<void(int index)> evFrmBuLogCommandButtonClicked;
 
   private:
-    void onControl(const ControlEvent& e);
+    void onControl(const ControlEvent& e) override;
 };

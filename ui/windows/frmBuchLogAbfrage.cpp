@@ -29,9 +29,7 @@ const WindowDecl& frmBuchLogAbfrage::declaration() {
 }
 
 frmBuchLogAbfrage::frmBuchLogAbfrage(std::unique_ptr<IWindow> w) : WindowContract(std::move(w)) {
-    WindowEvents events;
-    events.onControl = [this](const ControlEvent& e) { onControl(e); };
-    window().setEvents(std::move(events));
+    listen();
 }
 
 void frmBuchLogAbfrage::onControl(const ControlEvent& e) {

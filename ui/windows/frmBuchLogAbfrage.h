@@ -19,7 +19,7 @@ class frmBuchLogAbfrage : public WindowContract {
     bool pbBuchProtokoll() const { return buchProtokoll_; }
 
   private:
-    void onControl(const ControlEvent& e);
+    void onControl(const ControlEvent& e) override;
 
     bool buchProtokoll_ = false;
 };

@@ -198,12 +198,11 @@ frmEigenschaften::frmEigenschaften(std::unique_ptr<IWindow> w) : WindowContract(
     tabControl().setTabEnabled(1, false);
 
     WindowEvents events;
-    events.onControl = [this](const ControlEvent& e) { onControl(e); };
     events.onKeyDown = [this](int keyCode, int shift) { onKeyDown(keyCode, shift); };
     // Closing by the frame counts as Cancel; so does the window's going away.
     events.onQueryUnload = [this](bool&) { fire(evFrmEigenschaftenCommandButtonClicked, kCancel); };
     events.onUnload = [this] { fire(evFrmEigenschaftenCommandButtonClicked, kCancel); };
-    window().setEvents(std::move(events));
+    listen(std::move(events));
 }
 
 void frmEigenschaften::onControl(const ControlEvent& e) {

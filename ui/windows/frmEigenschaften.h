@@ -77,7 +77,7 @@ class frmEigenschaften : public WindowContract {
     std::function<void(int keyCode, int shift)> grdZeitplan_KeyDown;
 
   private:
-    void onControl(const ControlEvent& e);
+    void onControl(const ControlEvent& e) override;
     void onKeyDown(int keyCode, int shift);
     // F1 without shift: the help topic of the page on show. True when the key is taken.
     bool helpKey(int keyCode, int shift);

@@ -27,10 +27,9 @@ const WindowDecl& frmLogDaten::declaration() {
 
 frmLogDaten::frmLogDaten(std::unique_ptr<IWindow> w) : WindowContract(std::move(w)) {
     WindowEvents events;
-    events.onControl = [this](const ControlEvent& e) { onControl(e); };
     events.onQueryUnload = [this](bool&) { fire(evSchliessen); };
     events.onUnload = [this] { fire(evSchliessen); };
-    window().setEvents(std::move(events));
+    listen(std::move(events));
 }
 
 void frmLogDaten::onControl(const ControlEvent& e) {

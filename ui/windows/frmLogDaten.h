@@ -22,5 +22,5 @@ class frmLogDaten : public WindowContract {
     static inline const QString kToolDetails = QStringLiteral("Details");
 
   private:
-    void onControl(const ControlEvent& e);
+    void onControl(const ControlEvent& e) override;
 };

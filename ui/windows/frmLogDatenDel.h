@@ -23,5 +23,5 @@ class frmLogDatenDel : public WindowContract {
     std::function<void(int Index)> evAktion;
 
   private:
-    void onControl(const ControlEvent& e);
+    void onControl(const ControlEvent& e) override;
 };

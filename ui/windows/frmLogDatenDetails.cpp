@@ -60,10 +60,9 @@ frmLogDatenDetails::frmLogDatenDetails(std::unique_ptr<IWindow> w) : WindowContr
         txtDetails(i).setLocked(true);
     }
     WindowEvents events;
-    events.onControl = [this](const ControlEvent& e) { onControl(e); };
     events.onQueryUnload = [this](bool&) { fire(evSchliessen); };
     events.onUnload = [this] { fire(evSchliessen); };
-    window().setEvents(std::move(events));
+    listen(std::move(events));
 }
 
 void frmLogDatenDetails::onControl(const ControlEvent& e) {

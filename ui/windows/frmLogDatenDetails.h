@@ -26,5 +26,5 @@ class frmLogDatenDetails : public WindowContract {
     std::function<void(const QString& sToolName)> evNavigation;
 
   private:
-    void onControl(const ControlEvent& e);
+    void onControl(const ControlEvent& e) override;
 };

@@ -25,7 +25,7 @@ class frmOptTextDatName : public WindowContract {
     std::function<void(int row)> evTextDateienNamenUebernehmen;
 
   private:
-    void onControl(const ControlEvent& e);
+    void onControl(const ControlEvent& e) override;
     void close();
 
     int row_ = 0;

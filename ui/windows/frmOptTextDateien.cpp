@@ -32,9 +32,7 @@ const WindowDecl& frmOptTextDateien::declaration() {
 }
 
 frmOptTextDateien::frmOptTextDateien(std::unique_ptr<IWindow> w) : WindowContract(std::move(w)) {
-    WindowEvents events;
-    events.onControl = [this](const ControlEvent& e) { onControl(e); };
-    window().setEvents(std::move(events));
+    listen();
 }
 
 void frmOptTextDateien::onControl(const ControlEvent& e) {

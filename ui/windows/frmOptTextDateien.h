@@ -26,7 +26,7 @@ class frmOptTextDateien : public WindowContract {
     std::function<void()> evTextDateienUebernehmen;
 
   private:
-    void onControl(const ControlEvent& e);
+    void onControl(const ControlEvent& e) override;
     void choose(int index);
     void close();
 

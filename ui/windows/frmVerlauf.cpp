@@ -33,9 +33,7 @@ const WindowDecl& frmVerlauf::declaration() {
 }
 
 frmVerlauf::frmVerlauf(std::unique_ptr<IWindow> w) : WindowContract(std::move(w)) {
-    WindowEvents events;
-    events.onControl = [this](const ControlEvent& e) { onControl(e); };
-    window().setEvents(std::move(events));
+    listen();
 }
 
 void frmVerlauf::VerzeichnisOeffnen() {

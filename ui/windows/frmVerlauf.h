@@ -32,5 +32,5 @@ class frmVerlauf : public WindowContract {
     std::function<void()> evGrdDataLeaveCell;
 
   private:
-    void onControl(const ControlEvent& e);
+    void onControl(const ControlEvent& e) override;
 };

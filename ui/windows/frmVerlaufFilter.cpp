@@ -31,9 +31,7 @@ const WindowDecl& frmVerlaufFilter::declaration() {
 }
 
 frmVerlaufFilter::frmVerlaufFilter(std::unique_ptr<IWindow> w) : WindowContract(std::move(w)) {
-    WindowEvents events;
-    events.onControl = [this](const ControlEvent& e) { onControl(e); };
-    window().setEvents(std::move(events));
+    listen();
 }
 
 void frmVerlaufFilter::onControl(const ControlEvent& e) {

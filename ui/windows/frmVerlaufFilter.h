@@ -22,5 +22,5 @@ class frmVerlaufFilter : public WindowContract {
     std::function<void(int index)> evFrmFilterfCMDButtonClicked;
 
   private:
-    void onControl(const ControlEvent& e);
+    void onControl(const ControlEvent& e) override;
 };

@@ -111,12 +111,11 @@ const WindowDecl& frmZeitIntervall::declaration() {
 
 frmZeitIntervall::frmZeitIntervall(std::unique_ptr<IWindow> w) : WindowContract(std::move(w)) {
     WindowEvents events;
-    events.onControl = [this](const ControlEvent& e) { onControl(e); };
     events.onKeyDown = [this](int keyCode, int shift) { helpKey(keyCode, shift); };
     events.onQueryUnload = [this](bool&) {
         fire(evFrmZeitintervallCommandButtonClicked, kAbbrechen);
     };
-    window().setEvents(std::move(events));
+    listen(std::move(events));
 }
 
 // The window sees keys first; where a control reports its key itself, F1 is help there too.

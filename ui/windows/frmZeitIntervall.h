@@ -51,6 +51,6 @@ class frmZeitIntervall : public WindowContract {
     std::function<void()> evFRMZeitplanHilfe;
 
   private:
-    void onControl(const ControlEvent& e);
+    void onControl(const ControlEvent& e) override;
     void helpKey(int keyCode, int shift);
 };

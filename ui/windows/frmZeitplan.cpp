@@ -65,14 +65,13 @@ const WindowDecl& frmZeitplan::declaration() {
 
 frmZeitplan::frmZeitplan(std::unique_ptr<IWindow> w) : WindowContract(std::move(w)) {
     WindowEvents events;
-    events.onControl = [this](const ControlEvent& e) { onControl(e); };
     events.onKeyDown = [this](int keyCode, int shift) { onKeyDown(keyCode, shift); };
     // The close box is Abbrechen: the controller closes the window itself.
     events.onQueryUnload = [this](bool& cancel) {
         cancel = true;
         fire(evFrmZeitplanCommandButtonClicked, kAbbrechen);
     };
-    window().setEvents(std::move(events));
+    listen(std::move(events));
 }
 
 void frmZeitplan::onControl(const ControlEvent& e) {

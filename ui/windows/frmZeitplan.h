@@ -33,6 +33,6 @@ class frmZeitplan : public WindowContract {
     std::function<void()> evFRMZeitplanHilfe;
 
   private:
-    void onControl(const ControlEvent& e);
+    void onControl(const ControlEvent& e) override;
     void onKeyDown(int keyCode, int shift);
 };

@@ -53,9 +53,7 @@ const WindowDecl& frmZeitplanCopy::declaration() {
 }
 
 frmZeitplanCopy::frmZeitplanCopy(std::unique_ptr<IWindow> w) : WindowContract(std::move(w)) {
-    WindowEvents events;
-    events.onControl = [this](const ControlEvent& e) { onControl(e); };
-    window().setEvents(std::move(events));
+    listen();
 }
 
 void frmZeitplanCopy::onControl(const ControlEvent& e) {

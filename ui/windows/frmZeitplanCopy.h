@@ -36,5 +36,5 @@ class frmZeitplanCopy : public WindowContract {
     std::function<void(int row, int col)> grdAuftrag_Click;
 
   private:
-    void onControl(const ControlEvent& e);
+    void onControl(const ControlEvent& e) override;
 };
