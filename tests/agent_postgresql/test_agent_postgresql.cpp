@@ -24,21 +24,8 @@ qint64 count(const Database& db, const QString& sql) {
 
 // Every row of the statement as text, dates as the system stores them, NULL as such.
 QStringList rows(const Database& db, const QString& sql) {
-    QSqlQuery query(QSqlDatabase::database(db.connectionName(), false));
-    EXPECT_TRUE(query.exec(sql)) << query.lastError().text().toStdString();
-    QStringList all;
-    while (query.next()) {
-        QStringList row;
-        for (int c = 0; c < query.record().count(); ++c) {
-            const QVariant v = query.value(c);
-            row << (v.isNull() ? QStringLiteral("NULL")
-                    : v.typeId() == QMetaType::QDateTime
-                        ? v.toDateTime().toString(QStringLiteral("yyyy-MM-dd HH:mm:ss"))
-                        : v.toString());
-        }
-        all << row.join(u'|');
-    }
-    return all;
+    QSqlDatabase connection = QSqlDatabase::database(db.connectionName(), false);
+    return ServerDatabase::rows(connection, sql);
 }
 
 // A job whose texts need quoting in a statement: a quote, a backslash, an umlaut.
