@@ -1,5 +1,6 @@
 #include "gui/QtUi.h"
 
+#include "gui/QtFileDialog.h"
 #include "gui/QtHelpWindow.h"
 
 #include <QApplication>
@@ -170,22 +171,30 @@ void QtUi::ShowHelp(const QString&, const QString& topic) {
 
 std::optional<QString> QtUi::FileDialog(const QString& title, const QString& filter,
                                         const QString& initialDirectory, const QString& fileName) {
-    const QString start =
-        fileName.isEmpty() ? initialDirectory : QDir(initialDirectory).filePath(fileName);
-    const QString chosen =
-        QFileDialog::getOpenFileName(dialogParent(), title, start, qtFileFilter(filter));
-    if (chosen.isEmpty()) {
+    QFileDialog dialog(dialogParent(), title, initialDirectory, qtFileFilter(filter));
+    dialog.setObjectName(QStringLiteral("dlgDatei"));
+    QtFileDialog::keepListedFilesClosed(dialog);
+    dialog.setAcceptMode(QFileDialog::AcceptOpen);
+    dialog.setFileMode(QFileDialog::ExistingFile);
+    if (!fileName.isEmpty()) {
+        dialog.selectFile(fileName);
+    }
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
         return std::nullopt;
     }
-    return QDir::toNativeSeparators(chosen);
+    return QDir::toNativeSeparators(dialog.selectedFiles().constFirst());
 }
 
 std::optional<QString> QtUi::DirDialog(const QString& title, const QString& start) {
-    const QString chosen = QFileDialog::getExistingDirectory(dialogParent(), title, start);
-    if (chosen.isEmpty()) {
+    QFileDialog dialog(dialogParent(), title, start);
+    dialog.setObjectName(QStringLiteral("dlgVerzeichnis"));
+    QtFileDialog::keepListedFilesClosed(dialog);
+    dialog.setFileMode(QFileDialog::Directory);
+    dialog.setOption(QFileDialog::ShowDirsOnly);
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
         return std::nullopt;
     }
-    return QDir::toNativeSeparators(chosen);
+    return QDir::toNativeSeparators(dialog.selectedFiles().constFirst());
 }
 
 void QtUi::SetMousePointer(int pointer) {

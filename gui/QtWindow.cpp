@@ -8,6 +8,7 @@
 #include <QLayout>
 #include <QStyle>
 
+#include "common/DatabaseFiles.h"
 #include "common/ErrObject.h"
 #include "gui/QtAutoLayout.h"
 #include "gui/QtControls.h"
@@ -193,6 +194,10 @@ void QtWindow::shot(const QString& file) {
     root_->ensurePolished();
     if (root_->layout()) {
         root_->layout()->activate();
+    }
+    if (DatabaseFiles::isDatabaseFile(file)) {
+        throw RaisedError(DatabaseFiles::kRefusalNumber, DatabaseFiles::refusal(file),
+                          QStringLiteral("gui"));
     }
     QDir().mkpath(QFileInfo(file).absolutePath());
     if (!root_->grab().save(file, "PNG")) {

@@ -6,6 +6,7 @@
 #include "app/LibraryObjects.h"
 #include "app/Required.h"
 #include "app/cAdminJob.h"
+#include "common/DatabaseFiles.h"
 #include "common/ErrObject.h"
 #include "common/ErrorExit.h"
 #include "common/ModuleHelpers.h"
@@ -69,6 +70,9 @@ bool cAdminJob::mbBuchProt(const QString& sDatei) {
     try {
         bool bBuchungen = false;
         {
+            if (DatabaseFiles::isDatabaseFile(sDatei)) {
+                throw RaisedError(DatabaseFiles::kRefusalNumber, DatabaseFiles::refusal(sDatei));
+            }
             QFile datei(sDatei);
             // Only a plain file: a pipe of that name would block the opening, a link to
             // itself cannot be opened at all.

@@ -12,7 +12,9 @@
 #include <QTextStream>
 #include <optional>
 
+#include "common/DatabaseFiles.h"
 #include "common/ErrObject.h"
+#include "gui/QtFileDialog.h"
 #include "host/JobTransfer.h"
 
 namespace JobTransfer {
@@ -23,6 +25,9 @@ const QString kFilter = QStringLiteral("Auftragsdefinitionen (*.json);;Alle Date
 
 // Writes the whole file or leaves what was there; gives the reason of a failure.
 QString writeFile(const QString& file, const QByteArray& bytes) {
+    if (DatabaseFiles::isDatabaseFile(file)) {
+        return DatabaseFiles::refusal(file);
+    }
     QSaveFile out(file);
     if (!out.open(QIODevice::WriteOnly) || out.write(bytes) != bytes.size() || !out.commit()) {
         return out.errorString();
@@ -31,6 +36,9 @@ QString writeFile(const QString& file, const QByteArray& bytes) {
 }
 
 QString readFile(const QString& file, QByteArray& bytes) {
+    if (DatabaseFiles::isDatabaseFile(file)) {
+        return DatabaseFiles::refusal(file);
+    }
     QFile in(file);
     if (!in.open(QIODevice::ReadOnly)) {
         return in.errorString();
@@ -54,13 +62,15 @@ QString exportTo(const QString& connectionName, const QList<long>& ids, const QS
 QString chooseFile(QWidget* parent, const QString& name, const QString& title, bool save) {
     QFileDialog dialog(parent, title, QDir::homePath(), kFilter);
     dialog.setObjectName(name);
-    dialog.setOption(QFileDialog::DontUseNativeDialog);
-    dialog.setAcceptMode(save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
-    dialog.setFileMode(save ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
+    QtFileDialog::keepListedFilesClosed(dialog);
     if (save) {
+        dialog.setFileMode(QFileDialog::AnyFile);
         dialog.setDefaultSuffix(QStringLiteral("json"));
         dialog.selectFile(QStringLiteral("Auftraege.json"));
+        return QtFileDialog::chooseFileToWrite(dialog);
     }
+    dialog.setAcceptMode(QFileDialog::AcceptOpen);
+    dialog.setFileMode(QFileDialog::ExistingFile);
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
         return {};
     }

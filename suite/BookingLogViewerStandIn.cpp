@@ -2,6 +2,7 @@
 
 #include <QFile>
 
+#include "common/DatabaseFiles.h"
 #include "common/Services.h"
 
 namespace {
@@ -20,6 +21,10 @@ BookingLogView SuiteBookingLogViewer::makeView(BookingLogView view, bool buchung
     view.buchungen = buchungen;
     view.gefunden = false;
     view.text.clear();
+    if (DatabaseFiles::isDatabaseFile(view.datei)) {
+        view.text = DatabaseFiles::refusal(view.datei);
+        return view;
+    }
     QFile file(view.datei);
     if (!view.datei.isEmpty() && file.open(QIODevice::ReadOnly)) {
         const QByteArray bytes = file.read(kHoechstens);

@@ -15,12 +15,14 @@
 
 #include <sys/stat.h>
 
+#include "common/DatabaseFiles.h"
 #include "suite/DatabaseRecordset.h"
 #include "suite/PostgresBackend.h"
 #include "suite/SchemaUpgrade.h"
 #include "suite/SqlErrors.h"
 #include "suite/SqlFunctions.h"
 #include "suite/SqliteBackend.h"
+#include "suite/SqliteFileLocks.h"
 
 namespace {
 
@@ -37,6 +39,24 @@ void execute(sqlite3* db, const char* sql) {
     if (sqlite3_exec(db, sql, nullptr, nullptr, nullptr) != SQLITE_OK) {
         throw sqliteFailure(db, QString::fromUtf8(sql));
     }
+}
+
+// The journal mode a PRAGMA leaves, as SQLite answers it.
+QByteArray journalMode(sqlite3* db, const char* pragma) {
+    sqlite3_stmt* statement = nullptr;
+    if (sqlite3_prepare_v2(db, pragma, -1, &statement, nullptr) != SQLITE_OK) {
+        throw sqliteFailure(db, QString::fromUtf8(pragma));
+    }
+    QByteArray mode;
+    const int rc = sqlite3_step(statement);
+    if (rc == SQLITE_ROW) {
+        mode = QByteArray(reinterpret_cast<const char*>(sqlite3_column_text(statement, 0)));
+    }
+    sqlite3_finalize(statement);
+    if (rc != SQLITE_ROW && rc != SQLITE_DONE) {
+        throw sqliteFailure(db, QString::fromUtf8(pragma));
+    }
+    return mode.toLower();
 }
 
 QString resourceText(const QString& name) {
@@ -60,6 +80,9 @@ Database::~Database() {
     if (QSqlDatabase::contains(connectionName_)) {
         connectionOf(connectionName_).close();
         QSqlDatabase::removeDatabase(connectionName_);
+    }
+    if (inode_ != 0) {
+        DatabaseFiles::closed(path_);
     }
 }
 
@@ -93,7 +116,18 @@ void Database::openSqlite(int busyTimeoutMs) {
     if (!db.open()) {
         throw SqlErrors::fromDriver(db.lastError(), path_);
     }
-    sqlite3* handle = sqliteHandle(db);
+    setUpSqlite();
+    struct stat info {};
+    if (!path_.isEmpty() && path_ != u":memory:" && ::stat(QFile::encodeName(path_), &info) == 0) {
+        device_ = info.st_dev;
+        inode_ = info.st_ino;
+        DatabaseFiles::opened(path_);
+    }
+}
+
+// What every opening of the connection needs, the first and one after lost locks.
+void Database::setUpSqlite() {
+    sqlite3* handle = sqliteHandle(connectionOf(connectionName_));
     if (handle == nullptr) {
         throw SqlErrors::raised(ErrNumber::Database,
                                 QStringLiteral("Die Verbindung gibt keinen SQLite-Zugriff."));
@@ -105,13 +139,8 @@ void Database::openSqlite(int busyTimeoutMs) {
     }
     if (!path_.isEmpty() && path_ != u":memory:") {
         // The agent service writes while the window reads.
-        execute(handle, "PRAGMA journal_mode=WAL");
+        walMode_ = journalMode(handle, "PRAGMA journal_mode=WAL") == "wal";
         execute(handle, "PRAGMA synchronous=NORMAL");
-    }
-    struct stat info {};
-    if (!path_.isEmpty() && path_ != u":memory:" && ::stat(QFile::encodeName(path_), &info) == 0) {
-        device_ = info.st_dev;
-        inode_ = info.st_ino;
     }
     if (registerServerFunctions(handle, clock_.get()) != SQLITE_OK) {
         throw sqliteFailure(handle, QStringLiteral("getdate, datediff, len"));
@@ -180,6 +209,36 @@ void Database::checkStillThere() const {
                            "beenden Sie das Programm und öffnen Sie die Datenbank neu.")
                 .arg(QDir::toNativeSeparators(QFileInfo(path_).absoluteFilePath())));
     }
+}
+
+void Database::checkLocksHeld() {
+    if (!walMode_ || SqliteFileLocks::ofThisProcess(path_) != SqliteFileLocks::State::Lost) {
+        return;
+    }
+    // The old connection must not write its -wal into the database on closing: another
+    // program may have written since, and the -wal may be one it already deleted.
+    QSqlDatabase db = connectionOf(connectionName_);
+    if (sqlite3* handle = sqliteHandle(db)) {
+        sqlite3_db_config(handle, SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, 1, nullptr);
+    }
+    db.close();
+    const QString file = QDir::toNativeSeparators(QFileInfo(path_).absoluteFilePath());
+    const QString notDone =
+        QStringLiteral(
+            "Die Sperre auf die Datenbank %1 ist verloren gegangen. Damit nichts in eine Datei "
+            "geschrieben wird, die ein anderes Programm inzwischen gelöscht haben kann, wurde die "
+            "letzte Aktion nicht ausgeführt.")
+            .arg(file);
+    if (!db.open()) {
+        throw SqlErrors::raised(ErrNumber::Database,
+                                notDone + QStringLiteral(" Die Datenbank kann nicht wieder "
+                                                         "geöffnet werden; bitte beenden Sie das "
+                                                         "Programm und starten Sie es neu."));
+    }
+    setUpSqlite();
+    throw SqlErrors::raised(ErrNumber::Database,
+                            notDone + QStringLiteral(" Die Verbindung wurde neu geöffnet; bitte "
+                                                     "wiederholen Sie die Aktion."));
 }
 
 Services::Factory<CRecordset> Database::recordsetFactory() {

@@ -53,16 +53,24 @@ class Database : public std::enable_shared_from_this<Database> {
     // Throws when the file the database was opened from has since been deleted or moved:
     // the connection would go on writing into a file nobody reads again.
     void checkStillThere() const;
+    // Throws when SQLite's locks on the file are gone (something in the process closed a
+    // descriptor of the database file or its -shm): the connection is opened anew, without
+    // its closing touching the files, and the action that asked is not carried out, so that
+    // nothing is written into files another program may already have deleted.
+    void checkLocksHeld();
 
   private:
     Database(QString path, QString connectionName, std::shared_ptr<IClock> clock);
     void openSqlite(int busyTimeoutMs);
+    void setUpSqlite();
 
     QString path_;
     QString connectionName_;
     std::shared_ptr<IClock> clock_;
     std::unique_ptr<SqlBackend> backend_;
     bool onServer_ = false;
+    // SQLite in WAL mode, whose locks checkLocksHeld() watches.
+    bool walMode_ = false;
     // Device and inode of the opened file; both 0 for a database without a file.
     quint64 device_ = 0;
     quint64 inode_ = 0;

@@ -54,7 +54,9 @@ QString DatabaseRecordset::translated(const QString& sql) const {
 
 void DatabaseRecordset::Connect() {
     connection();
-    database_.lock()->checkStillThere();
+    const std::shared_ptr<Database> db = database_.lock();
+    db->checkStillThere();
+    db->checkLocksHeld();
 }
 
 void DatabaseRecordset::Disconnect() {}
@@ -298,7 +300,9 @@ bool DatabaseRecordset::Move(long direction) {
 long DatabaseRecordset::Execute(const QString& sql) {
     const QString statement = translated(sql);
     const QSqlDatabase db = connection();
-    database_.lock()->checkStillThere();
+    const std::shared_ptr<Database> database = database_.lock();
+    database->checkStillThere();
+    database->checkLocksHeld();
     const QSqlQuery query = runSql(backend(), db, statement, {}, sql);
     const QString keyword = SqlDialect::leadingKeyword(statement);
     if (keyword == u"insert" || keyword == u"update" || keyword == u"delete" ||

@@ -3,6 +3,7 @@
 #include <QFile>
 #include <QStringDecoder>
 
+#include "common/DatabaseFiles.h"
 #include "common/Password.h"
 
 namespace {
@@ -24,7 +25,7 @@ bool sameName(const QString& a, const QString& b) {
 
 IniFile IniFile::read(const QString& path) {
     QFile file(path);
-    if (path.isEmpty() || !file.open(QIODevice::ReadOnly)) {
+    if (path.isEmpty() || DatabaseFiles::isDatabaseFile(path) || !file.open(QIODevice::ReadOnly)) {
         return {};
     }
     return parse(file.readAll());

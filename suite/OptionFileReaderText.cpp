@@ -3,6 +3,7 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include "common/DatabaseFiles.h"
 #include "common/ErrObject.h"
 
 namespace {
@@ -25,6 +26,10 @@ QList<OptionFileEntry> TextOptionFileReader::Entries(const QString& optionFile) 
     if (!QFileInfo(optionFile).isFile()) {
         throw RaisedError(kDateiNichtGefunden,
                           QStringLiteral("Datei nicht gefunden: ") + optionFile, kQuelle);
+    }
+    if (DatabaseFiles::isDatabaseFile(optionFile)) {
+        throw RaisedError(DatabaseFiles::kRefusalNumber, DatabaseFiles::refusal(optionFile),
+                          kQuelle);
     }
     const qint64 groesse = QFileInfo(optionFile).size();
     if (groesse > kHoechstGroesse) {

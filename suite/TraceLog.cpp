@@ -4,6 +4,7 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include "common/DatabaseFiles.h"
 #include "common/PlatformUi.h"
 #include "common/Services.h"
 
@@ -33,6 +34,10 @@ void SuiteTraceLog::Write(long level, const QString& text) {
         return;
     }
     const QFileInfo info(config_->traceFilePath);
+    if (DatabaseFiles::isDatabaseFile(info.absoluteFilePath())) {
+        tellOnce(info.absoluteFilePath(), DatabaseFiles::refusal(info.absoluteFilePath()));
+        return;
+    }
     QDir().mkpath(info.absolutePath());
     QFile file(info.absoluteFilePath());
     if (!file.open(QIODevice::WriteOnly | QIODevice::Append)) {

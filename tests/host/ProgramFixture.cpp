@@ -6,6 +6,7 @@
 #include <QDir>
 #include <QMenu>
 #include <QMenuBar>
+#include <QRegularExpression>
 #include <QTest>
 
 void ProgramFixture::SetUp() {
@@ -85,4 +86,35 @@ void ProgramFixture::saveNewJobFromTheMenu(const QString& name) {
     });
     chooseMenu(QStringLiteral("Bearbeiten"), QStringLiteral("Neu"));
     ASSERT_TRUE(real_input::waitFor([&] { return done; }));
+}
+
+void ProgramFixture::deleteTodaysServiceLog() {
+    bool deleting = false;
+    real_input::whenShown(QStringLiteral("frmLogDatenDel"), [&](QWidget* w) {
+        deleting = true;
+        boxes_->answerNext(QStringLiteral("Ja"));
+        real_input::click(real_input::find(w, QStringLiteral("cmdAktion(0)")));
+    });
+    chooseMenu(QStringLiteral("Bearbeiten"), QStringLiteral("Logdaten Dienst löschen"));
+    ASSERT_TRUE(real_input::waitFor(
+        [&] { return deleting && !real_input::shownWindow(QStringLiteral("frmLogDatenDel")); }));
+}
+
+qint64 ProgramFixture::deletedLogEntries(const QStringList& expected,
+                                         QStringList& unexpected) const {
+    static const QRegularExpression deletedText(
+        QStringLiteral("^Es wurden (\\d+) Logeinträge gelöscht\\.$"));
+    qint64 deleted = 0;
+    for (const QString& text : boxes_->shown()) {
+        if (const auto m = deletedText.match(text); m.hasMatch()) {
+            deleted += m.captured(1).toLongLong();
+        } else if (text == QStringLiteral("Es wurde 1 Logeintrag gelöscht.")) {
+            deleted += 1;
+        } else if (text != QStringLiteral("Es wurden keine Logeinträge gelöscht.") &&
+                   !text.startsWith(QStringLiteral("Wollen Sie die Logdaten")) &&
+                   !expected.contains(text)) {
+            unexpected << text;
+        }
+    }
+    return deleted;
 }

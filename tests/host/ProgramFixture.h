@@ -31,6 +31,11 @@ class ProgramFixture : public ::testing::Test {
     // Bearbeiten → Neu, then a customers import named so, for the first client and staff
     // member, with its two folders made; "OK", and "Nein" to the backup question.
     void saveNewJobFromTheMenu(const QString& name);
+    // Bearbeiten → "Logdaten Dienst löschen" with the window's own period (today), "Ja".
+    void deleteTodaysServiceLog();
+    // The log entries that the message boxes shown so far say were deleted; every other text
+    // but the deletion's question and those expected goes to unexpected.
+    qint64 deletedLogEntries(const QStringList& expected, QStringList& unexpected) const;
 
     QTemporaryDir dir_;
     std::shared_ptr<SuiteConfig> config_;

@@ -1,7 +1,6 @@
 // The program as users start it, worked through its windows while the job agent writes runs
 // and log entries into the same database: no lock message, no error report, no row lost.
 #include <QLabel>
-#include <QRegularExpression>
 #include <QTest>
 #include <atomic>
 #include <thread>
@@ -55,9 +54,6 @@ TEST_F(LiveAgentTest, HistoryLogDataAndDeletionWhileTheAgentWrites) {
     QElapsedTimer timer;
     timer.start();
     int rounds = 0;
-    qint64 deleted = 0;
-    const QRegularExpression deletedText(
-        QStringLiteral("^Es wurden (\\d+) Logeinträge gelöscht\\.$"));
     while (timer.elapsed() < checkSeconds() * 1000) {
         clickRow(list(), 1 + rounds % 3);
         QString counter;
@@ -80,31 +76,14 @@ TEST_F(LiveAgentTest, HistoryLogDataAndDeletionWhileTheAgentWrites) {
         ASSERT_TRUE(waitFor([&] { return viewed; }));
 
         // Today's service entries, the agent's newest among them.
-        bool deleting = false;
-        whenShown(QStringLiteral("frmLogDatenDel"), [&](QWidget* w) {
-            deleting = true;
-            boxes_->answerNext(QStringLiteral("Ja"));
-            click(find(w, QStringLiteral("cmdAktion(0)")));
-        });
-        chooseMenu(QStringLiteral("Bearbeiten"), QStringLiteral("Logdaten Dienst löschen"));
-        ASSERT_TRUE(
-            waitFor([&] { return deleting && !shownWindow(QStringLiteral("frmLogDatenDel")); }));
+        deleteTodaysServiceLog();
         ++rounds;
     }
     stop = true;
     agent.join();
 
     QStringList unexpected;
-    for (const QString& text : boxes_->shown()) {
-        if (const auto m = deletedText.match(text); m.hasMatch()) {
-            deleted += m.captured(1).toLongLong();
-        } else if (text == QStringLiteral("Es wurde 1 Logeintrag gelöscht.")) {
-            deleted += 1;
-        } else if (text == QStringLiteral("Es wurden keine Logeinträge gelöscht.")) {
-        } else if (!text.startsWith(QStringLiteral("Wollen Sie die Logdaten"))) {
-            unexpected << text;
-        }
-    }
+    const qint64 deleted = deletedLogEntries({}, unexpected);
     EXPECT_EQ(unexpected, QStringList());
     EXPECT_EQ(agentFailures, QStringList());
     EXPECT_GE(rounds, 2);
