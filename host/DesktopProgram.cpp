@@ -51,11 +51,11 @@ DesktopProgram::DesktopProgram(std::shared_ptr<SuiteConfig> config)
     window_->onExport = [this] {
         const QWidget* list = window_->centralWidget();
         JobTransfer::exportFromMenu(
-            window_.get(), db_->connectionName(),
+            window_.get(), *db_,
             JobTransfer::selectedJobIds(list ? list->findChild<QTableView*>() : nullptr));
     };
     window_->onImport = [this] {
-        JobTransfer::importFromMenu(window_.get(), db_->connectionName(), config_->mitId,
+        JobTransfer::importFromMenu(window_.get(), *db_, config_->mitId,
                                     [session = session_.get()] { session->refresh(); });
     };
     window_->onRefresh = [session = session_.get()] { session->refresh(); };

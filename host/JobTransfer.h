@@ -5,6 +5,8 @@
 #include <QString>
 #include <QStringList>
 
+class Database;
+
 // Job definitions carried from one database to another as one versioned JSON document: each
 // job's values and its schedules, clients and staff members by their number and name, never
 // by a row id, and never an archive password.
@@ -26,8 +28,9 @@ struct ImportResult {
 };
 
 // Checks the whole document, then writes all its jobs with their schedules in one
-// transaction, or none of them. staffId is written as the last editor.
-ImportResult importJobs(const QString& connectionName, const QByteArray& document, long staffId);
+// transaction, or none of them, through the same writer as the editor. staffId is written as
+// the last editor.
+ImportResult importJobs(Database& database, const QByteArray& document, long staffId);
 
 // What the user is told after an import: the jobs written, the name clashes, the jobs that
 // need a password; or every problem of the document.

@@ -16,6 +16,7 @@
 #include "common/ErrObject.h"
 #include "gui/QtFileDialog.h"
 #include "host/JobTransfer.h"
+#include "suite/Database.h"
 
 namespace JobTransfer {
 
@@ -79,9 +80,9 @@ QString chooseFile(QWidget* parent, const QString& name, const QString& title, b
 
 }  // namespace
 
-int exportCommand(const QString& connectionName, const QString& file) {
+int exportCommand(Database& database, const QString& file) {
     int count = 0;
-    const QString error = exportTo(connectionName, {}, file, count);
+    const QString error = exportTo(database.connectionName(), {}, file, count);
     if (!error.isEmpty()) {
         QTextStream(stderr) << "Die Aufträge konnten nicht exportiert werden: " << error << "\n";
         return 1;
@@ -90,14 +91,14 @@ int exportCommand(const QString& connectionName, const QString& file) {
     return 0;
 }
 
-int importCommand(const QString& connectionName, const QString& file, long staffId) {
+int importCommand(Database& database, const QString& file, long staffId) {
     QByteArray bytes;
     if (const QString error = readFile(file, bytes); !error.isEmpty()) {
         QTextStream(stderr) << "Die Datei " << file << " kann nicht gelesen werden: " << error
                             << "\n";
         return 1;
     }
-    const ImportResult result = importJobs(connectionName, bytes, staffId);
+    const ImportResult result = importJobs(database, bytes, staffId);
     QTextStream(result.written ? stdout : stderr) << importReport(result) << "\n";
     return result.written ? 0 : 1;
 }
@@ -149,7 +150,7 @@ std::optional<QList<long>> chooseJobs(QWidget* parent, const QList<long>& marked
     return std::nullopt;
 }
 
-void exportFromMenu(QWidget* parent, const QString& connectionName, const QList<long>& marked) {
+void exportFromMenu(QWidget* parent, Database& database, const QList<long>& marked) {
     const std::optional<QList<long>> jobIds = chooseJobs(parent, marked);
     if (!jobIds) {
         return;
@@ -161,7 +162,7 @@ void exportFromMenu(QWidget* parent, const QString& connectionName, const QList<
         return;
     }
     int count = 0;
-    const QString error = exportTo(connectionName, *jobIds, file, count);
+    const QString error = exportTo(database.connectionName(), *jobIds, file, count);
     if (!error.isEmpty()) {
         QMessageBox::warning(
             parent, QStringLiteral("Aufträge exportieren"),
@@ -172,7 +173,7 @@ void exportFromMenu(QWidget* parent, const QString& connectionName, const QList<
                              QStringLiteral("Die Aufträge wurden exportiert nach\n%1").arg(file));
 }
 
-void importFromMenu(QWidget* parent, const QString& connectionName, long staffId,
+void importFromMenu(QWidget* parent, Database& database, long staffId,
                     const std::function<void()>& refresh) {
     const QString file = chooseFile(parent, QStringLiteral("dlgImport"),
                                     QStringLiteral("Aufträge importieren"), false);
@@ -185,7 +186,7 @@ void importFromMenu(QWidget* parent, const QString& connectionName, long staffId
                              QStringLiteral("Die Datei kann nicht gelesen werden:\n%1").arg(error));
         return;
     }
-    const ImportResult result = importJobs(connectionName, bytes, staffId);
+    const ImportResult result = importJobs(database, bytes, staffId);
     if (result.written && refresh) {
         refresh();
     }

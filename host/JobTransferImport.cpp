@@ -17,8 +17,12 @@
 #include "host/JobTransferSql.h"
 #include "jobs/ClientKinds.h"
 #include "jobs/JobRecord.h"
+#include "jobs/JobStore.h"
 #include "jobs/Zusatzinfo.h"
 #include "schedule/RecurrenceRanges.h"
+#include "schedule/ScheduleStore.h"
+#include "schedule/cSchedule.h"
+#include "suite/Database.h"
 
 namespace JobTransfer {
 
@@ -27,14 +31,9 @@ namespace {
 constexpr int kNameLength = 100;
 const QString kNoEnd = QStringLiteral("9999-12-31");
 
-struct PlannedSchedule {
-    QVariantList values;  // in the order of the insert's columns
-};
-
 struct PlannedJob {
-    QString name;
-    QVariantList values;
-    QList<PlannedSchedule> schedules;
+    JobRecord record;
+    QList<cSchedule> schedules;
     bool needsPassword = false;
 };
 
@@ -193,8 +192,8 @@ constexpr int Monatlich = 16;
 constexpr int MonatlichRelativ = 32;
 }  // namespace Typ
 
-std::optional<PlannedSchedule> readSchedule(QStringList& problems, const QString& jobWhere,
-                                            int index, const QJsonValue& value) {
+std::optional<cSchedule> readSchedule(QStringList& problems, const QString& jobWhere, int index,
+                                      const QJsonValue& value) {
     const QJsonObject o = value.toObject();
     const QString name = o.value(Key::kName).toString();
     const QString where =
@@ -276,12 +275,20 @@ std::optional<PlannedSchedule> readSchedule(QStringList& problems, const QString
     if (r.problemCount() != before) {
         return std::nullopt;
     }
-    const auto day = [](const QDate& d) {
-        return d.toString(QStringLiteral("yyyy-MM-dd")) + QStringLiteral(" 00:00:00");
-    };
-    return PlannedSchedule{{*sName, *aktiviert ? 1 : 0, *typ, *wiederholung, *intervall, *relativ,
-                            *tagesIntervall, *einheit, *startZeit, *endZeit, day(*startDatum),
-                            day(*endDatum)}};
+    cSchedule schedule;
+    schedule.psName = *sName;
+    schedule.pbyAktiviert = *aktiviert ? 1 : 0;
+    schedule.plFrequencyType = *typ;
+    schedule.plFrequencyRecurreFactor = *wiederholung;
+    schedule.plFrequencyIntervall = *intervall;
+    schedule.plFrequencyRelativeIntervall = *relativ;
+    schedule.plFrequencySubDayIntervall = *tagesIntervall;
+    schedule.plFrequencySubDay = *einheit;
+    schedule.pvActiveStartTimeOfDay = *startZeit;
+    schedule.pvActiveEndTimeOfDay = *endZeit;
+    schedule.pdtActiveStartDate = QDateTime(*startDatum, QTime(0, 0));
+    schedule.pdtActiveEndDate = QDateTime(*endDatum, QTime(0, 0));
+    return schedule;
 }
 
 std::optional<PlannedJob> readJob(QStringList& problems, const Lookups& lookups, int index,
@@ -390,27 +397,24 @@ std::optional<PlannedJob> readJob(QStringList& problems, const Lookups& lookups,
     if (r.problemCount() != before) {
         return std::nullopt;
     }
-    if (archiv) {
-        verzeichnis1 = staffId > 0 ? QString::number(staffId) : QString();
-        job.needsPassword = true;
-    }
-    // Texts are stored as texts, also when empty, as the editor stores them.
-    const auto stored = [](const QString& t) { return t.isNull() ? QStringLiteral("") : t; };
-    job.name = *sName;
-    job.values = {*sName,
-                  stored(*beschreibung),
-                  *aktiviert ? 1 : 0,
-                  *art,
-                  stored(*verzeichnis1),
-                  stored(*verzeichnis2),
-                  stored(*verzeichnis3),
-                  mandantId,
-                  *mandKanz,
-                  zusatzinfoSchreiben(artCode, info),
-                  *einzelLog ? 1 : 0,
-                  *fremdFormat ? 1 : 0,
-                  stored(*filter),
-                  stored(*mapping)};
+    job.needsPassword = archiv;
+    JobRecord& rec = job.record;
+    rec.lJobId = -1;
+    rec.sName = *sName;
+    rec.sBeschreibung = *beschreibung;
+    rec.bytAktiviert = *aktiviert ? 1 : 0;
+    rec.bytDatenArt = static_cast<std::uint8_t>(artCode);
+    rec.sVerzeichnis1 = *verzeichnis1;
+    rec.sVerzeichnis2 = *verzeichnis2;
+    rec.sVerzeichnis3 = *verzeichnis3;
+    rec.lArchivMitarbeiter = static_cast<long>(staffId);
+    rec.lMandant = static_cast<long>(mandantId);
+    rec.bytMandKanz = static_cast<std::uint8_t>(*mandKanz);
+    rec.sZusatzinfo = zusatzinfoSchreiben(artCode, info);
+    rec.bSingleLog = *einzelLog;
+    rec.bFremdFormat = *fremdFormat;
+    rec.sFremdDateifilter = *filter;
+    rec.sFremdMapping = *mapping;
     return job;
 }
 
@@ -457,42 +461,25 @@ QList<PlannedJob> readDocument(QStringList& problems, const Lookups& lookups,
     return jobs;
 }
 
-void write(const QSqlDatabase& db, const QList<PlannedJob>& jobs, long staffId) {
-    // PostgreSQL tells a new row's identity only when asked for it.
-    const bool onServer = db.driverName() == u"QPSQL";
+// Each job and its schedules go in through the same writer as the editor's save, on the
+// connection of the import's transaction.
+void write(CRecordset& recordset, const QList<PlannedJob>& jobs, long staffId,
+           const QDateTime& now) {
+    recordset.Connect();
     for (const PlannedJob& job : jobs) {
-        QVariantList values = job.values;
-        values << QVariant::fromValue<qlonglong>(staffId);
-        QSqlQuery q = run(db,
-                          QStringLiteral("insert into tAutoJobJob (Name, Beschreibung, Aktiviert, "
-                                         "DatenArt, MTAPath, BackupPath, ErrorMTA, Ps_Id_Mandant, "
-                                         "MandKanz, Zusatzinfo, SingleLog, FremdFormat, "
-                                         "FremdDateifilter, FremdMapping, Ps_Id_Mitarbeiter, "
-                                         "Erstellt, LetzteAenderung) values (?, ?, ?, ?, ?, ?, "
-                                         "?, ?, ?, ?, ?, ?, ?, ?, ?, getdate(), getdate())") +
-                              (onServer ? QStringLiteral(" returning idAutoJob") : QString()),
-                          values);
-        const QVariant jobId = onServer ? (q.next() ? q.value(0) : QVariant()) : q.lastInsertId();
-        for (const PlannedSchedule& s : job.schedules) {
-            QVariantList sv{jobId};
-            sv << s.values << QVariant::fromValue<qlonglong>(staffId);
-            run(db,
-                QStringLiteral("insert into tAutoJobSchedule (idAutoJob, Name, Aktiviert, "
-                               "FreqencyType, FrequencyRecurrenceFactor, FrequencyInterval, "
-                               "FrequencyRelativeInterval, FrequencySubDayinterval, "
-                               "FrequencySubDay, ActiveStartTimeOfDay, ActiveEndTimeOfDay, "
-                               "ActiveStartDate, ActiveEndDate, Ps_Id, LetzteAenderung) "
-                               "values (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, getdate())"),
-                sv);
+        const long jobId = JobStore::insert(recordset, job.record, staffId, now);
+        for (const cSchedule& s : job.schedules) {
+            ScheduleStore::insert(recordset, s, jobId, staffId, now);
         }
     }
+    recordset.Disconnect();
 }
 
 }  // namespace
 
-ImportResult importJobs(const QString& connectionName, const QByteArray& document, long staffId) {
+ImportResult importJobs(Database& database, const QByteArray& document, long staffId) {
     ImportResult result;
-    QSqlDatabase db = QSqlDatabase::database(connectionName, false);
+    QSqlDatabase db = QSqlDatabase::database(database.connectionName(), false);
     try {
         const Lookups lookups(db);
         const QList<PlannedJob> jobs = readDocument(result.problems, lookups, document);
@@ -503,7 +490,7 @@ ImportResult importJobs(const QString& connectionName, const QByteArray& documen
             raiseError(db.lastError().text());
         }
         try {
-            write(db, jobs, staffId);
+            write(*database.recordsetFactory()(), jobs, staffId, database.clock().now());
         } catch (const RaisedError&) {
             db.rollback();
             throw;
@@ -514,12 +501,13 @@ ImportResult importJobs(const QString& connectionName, const QByteArray& documen
             raiseError(text);
         }
         for (const PlannedJob& job : jobs) {
-            result.imported << job.name;
-            if (lookups.jobNames.contains(job.name)) {
-                result.nameClashes << job.name;
+            const QString& name = job.record.sName;
+            result.imported << name;
+            if (lookups.jobNames.contains(name)) {
+                result.nameClashes << name;
             }
             if (job.needsPassword) {
-                result.needPassword << job.name;
+                result.needPassword << name;
             }
         }
         result.written = true;

@@ -164,11 +164,10 @@ int main(int argc, char* argv[]) {
     }
 
     if (!options.importFile.isEmpty()) {
-        return JobTransfer::importCommand(program->database().connectionName(), options.importFile,
-                                          config->mitId);
+        return JobTransfer::importCommand(program->database(), options.importFile, config->mitId);
     }
     if (!options.exportFile.isEmpty()) {
-        return JobTransfer::exportCommand(program->database().connectionName(), options.exportFile);
+        return JobTransfer::exportCommand(program->database(), options.exportFile);
     }
     if (options.summary) {
         QTextStream(stdout) << "Datenbank: " << program->database().path() << "\n" << demoSummary();

@@ -7,6 +7,7 @@
 #include "common/MessageBox.h"
 #include "common/ModuleHelpers.h"
 #include "joblist/ListTools.h"
+#include "jobs/JobStore.h"
 #include "ui/Browser.h"
 #include "ui/ControlEvent.h"
 #include "ui/windows/frmPakete.h"
@@ -26,14 +27,11 @@ void cAdminJob::mChangeAktivJob() {
         }
         auto oTL = neuesRecordset(ex);
         oTL->Connect();
-        const long lAnzahl = oTL->OpenQuery(
-            QStringLiteral(" Select * FROM tAutoJobJob where idAutoJob") + sBedingung, 2);
+        const long lAnzahl = oTL->OpenQuery(JobStore::rowsQuery(sBedingung), 2);
         if (lAnzahl >= 1) {
             bool bDatensatz = true;
             while (bDatensatz) {
-                const long lAktiv = oTL->ReadLong(QStringLiteral("Aktiviert"));
-                oTL->WriteLong(QStringLiteral("Aktiviert"), lAktiv == 1 ? 0 : 1);
-                oTL->Update(CRecordset::UpdateWrite, true);
+                JobStore::toggleActive(*oTL);
                 bDatensatz = oTL->Move(CRecordset::MoveNext);
             }
         }
@@ -60,8 +58,7 @@ void cAdminJob::mLoescheJob() {
 
         auto oTL = neuesRecordset(ex);
         oTL->Connect();
-        const long lGeloescht =
-            oTL->Execute(QStringLiteral("delete from tAutoJobJob where idAutoJob") + sBedingung);
+        const long lGeloescht = oTL->Execute(JobStore::deleteStatement(sBedingung));
         oTL->Close();
 
         long lLogeintraege = 0;

@@ -10,12 +10,13 @@
 #include "common/ErrorExit.h"
 #include "common/ModuleHelpers.h"
 #include "common/Password.h"
+#include "jobs/JobStore.h"
 #include "jobs/JobTypes.h"
 
 namespace {
 
 QString jobAbfrage(long lJobId) {
-    return QStringLiteral("Select * from tAutoJobJob where idAutoJob = ") + QString::number(lJobId);
+    return JobStore::rowQuery(lJobId);
 }
 
 // The numeric value a text starts with, rounded to a whole number; 0 when there is none.
@@ -133,39 +134,9 @@ void cAdminJob::mAuftragSpeichern(JobRecord& rec) {
         const bool bNeu = oTL->OpenQuery(sSql, 2) < 1;
         if (bNeu) {
             oTL->AddNew();
-            oTL->WriteDate(QStringLiteral("Erstellt"), clockNow());
             sNeuerName = rec.sName;
         }
-        oTL->WriteText(QStringLiteral("Name"), rec.sName);
-        oTL->WriteText(QStringLiteral("Beschreibung"), rec.sBeschreibung);
-        oTL->WriteText(QStringLiteral("Aktiviert"), QString::number(rec.bytAktiviert));
-        oTL->WriteLong(QStringLiteral("DatenArt"), rec.bytDatenArt);
-        if (jobHatArchivAnmeldung(rec.bytDatenArt)) {
-            oTL->WriteText(QStringLiteral("MTAPath"), QString::number(rec.lArchivMitarbeiter));
-            oTL->WriteText(QStringLiteral("BackupPath"),
-                           msPasswortKodieren(rec.sArchivKennwort, true));
-        } else {
-            oTL->WriteText(QStringLiteral("MTAPath"), rec.sVerzeichnis1);
-            oTL->WriteText(QStringLiteral("BackupPath"), rec.sVerzeichnis2);
-        }
-        oTL->WriteText(QStringLiteral("ErrorMTA"), rec.sVerzeichnis3);
-        oTL->WriteText(QStringLiteral("Ps_Id_Mandant"), QString::number(rec.lMandant));
-        oTL->WriteLong(QStringLiteral("MandKanz"), rec.bytMandKanz);
-        oTL->WriteText(QStringLiteral("Ps_Id_Mitarbeiter"),
-                       QString::number(required(moProperties).plMitId));
-        oTL->WriteText(QStringLiteral("Zusatzinfo"), rec.sZusatzinfo);
-        // The import options of a foreign format belong to the bookings import alone, and a
-        // filter or mapping without the foreign format is never kept.
-        const bool bBuchungen = rec.bytDatenArt == DatenArt::Buchungen;
-        const bool bFremdFormat = bBuchungen && rec.bFremdFormat;
-        oTL->WriteText(QStringLiteral("SingleLog"),
-                       bBuchungen && rec.bSingleLog ? QStringLiteral("1") : QStringLiteral("0"));
-        oTL->WriteBool(QStringLiteral("FremdFormat"), bFremdFormat);
-        oTL->WriteText(QStringLiteral("FremdDateifilter"),
-                       bFremdFormat ? rec.sFremdDateifilter : QString());
-        oTL->WriteText(QStringLiteral("FremdMapping"),
-                       bFremdFormat ? rec.sFremdMapping : QString());
-        oTL->WriteText(QStringLiteral("LetzteAenderung"), msDatumZeit(clockNow()));
+        JobStore::writeColumns(*oTL, rec, required(moProperties).plMitId, clockNow(), bNeu);
         // The captions come from the record buffer before the write, the id only after it.
         const QString sLetzteAenderung =
             msGetLetzteAenderungText(oTL->ReadDate(QStringLiteral("LetzteAenderung")), 0);

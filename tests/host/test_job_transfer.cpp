@@ -50,7 +50,7 @@ class JobTransferTest : public ProgramFixture {
     }
     QStringList problemsOf(const QByteArray& document) {
         const QString before = jobCount();
-        const ImportResult r = importJobs(connection(), document, 1);
+        const ImportResult r = importJobs(program_->database(), document, 1);
         EXPECT_FALSE(r.written);
         EXPECT_EQ(jobCount(), before);
         return r.problems;
@@ -92,7 +92,7 @@ TEST_F(JobTransferTest, RoundTripOfEveryJobTypeAndScheduleKindGivesTheSameDocume
         << onceOnlyBefore.toStdString();
 
     deleteAllJobs();
-    const ImportResult r = importJobs(connection(), first, 2);
+    const ImportResult r = importJobs(program_->database(), first, 2);
     ASSERT_TRUE(r.written) << r.problems.join(QLatin1Char('\n')).toStdString();
     EXPECT_EQ(r.imported.size(), 14);
     EXPECT_EQ(r.nameClashes, QStringList());
@@ -125,7 +125,7 @@ TEST_F(JobTransferTest, SelectedJobsOnlyInTheOrderOfTheirIds) {
 
 TEST_F(JobTransferTest, ANameThatExistsIsAddedAsANewJobAndNamedInTheReport) {
     const QByteArray doc = exportJobs(connection(), {2});
-    const ImportResult r = importJobs(connection(), doc, 1);
+    const ImportResult r = importJobs(program_->database(), doc, 1);
     ASSERT_TRUE(r.written);
     EXPECT_EQ(r.nameClashes, QStringList{QStringLiteral("Lieferanten Autohaus Lindner")});
     EXPECT_EQ(jobCount(), QStringLiteral("15"));
@@ -283,7 +283,7 @@ TEST_F(JobTransferTest, AllProblemsOfAllJobsAreToldAndNothingIsWritten) {
     last.remove(QStringLiteral("einzelLog"));
     jobs[13] = last;
     doc[QStringLiteral("auftraege")] = jobs;
-    const ImportResult r = importJobs(connection(), bytesOf(doc), 1);
+    const ImportResult r = importJobs(program_->database(), bytesOf(doc), 1);
     EXPECT_FALSE(r.written);
     EXPECT_EQ(r.problems,
               (QStringList{QStringLiteral("Auftrag \"Kunden Bäckerei Huber\": \"mandKanz\" muss "
@@ -293,4 +293,66 @@ TEST_F(JobTransferTest, AllProblemsOfAllJobsAreToldAndNothingIsWritten) {
     EXPECT_EQ(importReport(r).section(QLatin1Char('\n'), 0, 0),
               QStringLiteral("Es wurde kein Auftrag importiert:"));
     EXPECT_EQ(jobCount(), QStringLiteral("14"));
+}
+
+namespace {
+
+// Every column of the rows a query finds, with its stored kind: the ids left out and the
+// moments by their kind and form only, since the two writes happen at different times.
+QStringList storedRows(const QString& connection, const QString& table, const QString& where) {
+    const QSqlDatabase db = QSqlDatabase::database(connection, false);
+    QSqlQuery info(db);
+    EXPECT_TRUE(info.exec(QStringLiteral("pragma table_info(%1)").arg(table)));
+    QStringList parts;
+    while (info.next()) {
+        const QString column = info.value(1).toString();
+        if (column.startsWith(QStringLiteral("idAutoJob"))) {
+            continue;
+        }
+        const bool moment = column == u"Erstellt" || column == u"LetzteAenderung";
+        parts << QStringLiteral("'%1=' || typeof(%1) || ':' || %2")
+                     .arg(column, moment ? QStringLiteral("length(%1)").arg(column)
+                                         : QStringLiteral("ifnull(quote(%1), 'NULL')").arg(column));
+    }
+    QSqlQuery rows(db);
+    EXPECT_TRUE(rows.exec(QStringLiteral("select %1 from %2 where %3 order by 1")
+                              .arg(parts.join(QStringLiteral(" || ' ' || ")), table, where)));
+    QStringList result;
+    while (rows.next()) {
+        result << rows.value(0).toString();
+    }
+    return result;
+}
+
+}  // namespace
+
+// The import writes through the editor's own writer: a job pasted in the list and the same
+// job imported from its exported definition are stored alike, column by column, with their
+// schedules.
+TEST_F(JobTransferTest, AnImportedJobIsStoredAsThePastedCopyOfTheSameJob) {
+    const QString name = QStringLiteral("Buchungen Bäckerei Huber (CSV)");
+    const QByteArray document = exportJobs(connection(), {3});
+    real_input::clickRow(list(), real_input::rowShowing(list(), QStringLiteral("Name"), name));
+    chooseMenu(QStringLiteral("Bearbeiten"), QStringLiteral("Kopieren"));
+    chooseMenu(QStringLiteral("Bearbeiten"), QStringLiteral("Einfügen"));
+    const QString pasted = scalar(QStringLiteral("select max(idAutoJob) from tAutoJobJob"));
+    ASSERT_EQ(pasted, QStringLiteral("15"));
+
+    const ImportResult r = importJobs(program_->database(), document, config_->mitId);
+    ASSERT_TRUE(r.written) << r.problems.join(QLatin1Char('\n')).toStdString();
+    const QString imported = scalar(QStringLiteral("select max(idAutoJob) from tAutoJobJob"));
+    ASSERT_EQ(imported, QStringLiteral("16"));
+
+    const auto jobRow = [&](const QString& id) {
+        return storedRows(connection(), QStringLiteral("tAutoJobJob"),
+                          QStringLiteral("idAutoJob = ") + id);
+    };
+    const auto scheduleRows = [&](const QString& id) {
+        return storedRows(connection(), QStringLiteral("tAutoJobSchedule"),
+                          QStringLiteral("idAutoJob = ") + id);
+    };
+    ASSERT_EQ(jobRow(pasted).size(), 1);
+    EXPECT_EQ(jobRow(imported), jobRow(pasted));
+    ASSERT_EQ(scheduleRows(pasted).size(), 2);
+    EXPECT_EQ(scheduleRows(imported), scheduleRows(pasted));
 }

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QDateTime>
+#include <QString>
+
+#include "jobs/JobRecord.h"
+
+class CRecordset;
+
+// The one writer of a row of tAutoJobJob: the editor's save, the paste and the import of job
+// definitions all set a job's columns here, so that a rule of what is stored holds for each.
+namespace JobStore {
+
+// The query that finds the row of a job (none for an id without a row).
+QString rowQuery(long lJobId);
+
+// The query and the deletion of the jobs whose id meets the condition (" = 5", " IN (1,2)").
+QString rowsQuery(const QString& sBedingung);
+QString deleteStatement(const QString& sBedingung);
+
+// Turns the job on the record set's current row off when it is on, else on, and writes it.
+void toggleActive(CRecordset& oTL);
+
+// Sets every column of the job on the record set's current row; a new row (after AddNew)
+// gets its creation date as well. lMitarbeiter is written as the last editor and dtJetzt as
+// the moment of the change.
+void writeColumns(CRecordset& oTL, const JobRecord& rec, long lMitarbeiter,
+                  const QDateTime& dtJetzt, bool bNeu);
+
+// Adds the job as a new row through the record set, which is connected; its new id.
+long insert(CRecordset& oTL, const JobRecord& rec, long lMitarbeiter, const QDateTime& dtJetzt);
+
+}  // namespace JobStore
