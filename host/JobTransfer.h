@@ -17,7 +17,7 @@ inline constexpr int kVersion = 1;
 
 // The document of the jobs with the given ids (all jobs when empty), in the order of their
 // ids. Throws RaisedError when the database cannot be read.
-QByteArray exportJobs(const QString& connectionName, const QList<long>& jobIds);
+QByteArray exportJobs(Database& database, const QList<long>& jobIds);
 
 struct ImportResult {
     QStringList problems;      // every problem of the document; nothing written when any

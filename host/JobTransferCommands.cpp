@@ -48,10 +48,9 @@ QString readFile(const QString& file, QByteArray& bytes) {
     return {};
 }
 
-QString exportTo(const QString& connectionName, const QList<long>& ids, const QString& file,
-                 int& count) {
+QString exportTo(Database& database, const QList<long>& ids, const QString& file, int& count) {
     try {
-        const QByteArray document = exportJobs(connectionName, ids);
+        const QByteArray document = exportJobs(database, ids);
         count = ids.isEmpty() ? -1 : static_cast<int>(ids.size());
         return writeFile(file, document);
     } catch (const RaisedError& e) {
@@ -82,7 +81,7 @@ QString chooseFile(QWidget* parent, const QString& name, const QString& title, b
 
 int exportCommand(Database& database, const QString& file) {
     int count = 0;
-    const QString error = exportTo(database.connectionName(), {}, file, count);
+    const QString error = exportTo(database, {}, file, count);
     if (!error.isEmpty()) {
         QTextStream(stderr) << "Die Aufträge konnten nicht exportiert werden: " << error << "\n";
         return 1;
@@ -162,7 +161,7 @@ void exportFromMenu(QWidget* parent, Database& database, const QList<long>& mark
         return;
     }
     int count = 0;
-    const QString error = exportTo(database.connectionName(), *jobIds, file, count);
+    const QString error = exportTo(database, *jobIds, file, count);
     if (!error.isEmpty()) {
         QMessageBox::warning(
             parent, QStringLiteral("Aufträge exportieren"),

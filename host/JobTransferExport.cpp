@@ -6,15 +6,19 @@
 #include <QSqlDatabase>
 #include <QSqlError>
 #include <QSqlQuery>
-#include <QSqlRecord>
 #include <QVariant>
 
 #include "common/ErrorExit.h"
+#include "common/Recordset.h"
 #include "host/JobTransferFields.h"
 #include "host/JobTransferSql.h"
 #include "jobs/JobRecord.h"
+#include "jobs/JobStore.h"
 #include "jobs/JobTypes.h"
 #include "jobs/Zusatzinfo.h"
+#include "schedule/ScheduleStore.h"
+#include "schedule/cSchedule.h"
+#include "suite/Database.h"
 
 namespace JobTransfer {
 
@@ -41,63 +45,62 @@ QString clientNumber(const QSqlDatabase& db, long id) {
     return (q.value(1).toInt() != 0 ? QStringLiteral("K") : QString()) + q.value(0).toString();
 }
 
-QString datePart(const QVariant& v) {
-    return v.toString().left(10);
+QString dayOf(const QDateTime& moment) {
+    return moment.date().toString(QStringLiteral("yyyy-MM-dd"));
 }
 
-QJsonArray schedulesOf(const QSqlDatabase& db, long jobId) {
-    QSqlQuery q = run(db,
-                      QStringLiteral("select Name, Aktiviert, FreqencyType, FrequencyInterval, "
-                                     "FrequencyRecurrenceFactor, FrequencyRelativeInterval, "
-                                     "FrequencySubDay, FrequencySubDayinterval, "
-                                     "ActiveStartTimeOfDay, ActiveEndTimeOfDay, ActiveStartDate, "
-                                     "ActiveEndDate from tAutoJobSchedule where idAutoJob = ? "
-                                     "order by idAutoJobSchedule"),
-                      {QVariant::fromValue<qlonglong>(jobId)});
+int asNumber(const QVariant& hhmmss) {
+    return hhmmss.toInt();
+}
+
+QJsonArray schedulesOf(CRecordset& recordset, long jobId) {
     QJsonArray schedules;
-    while (q.next()) {
-        QJsonObject s;
-        s[Key::kName] = q.value(0).toString();
-        s[Key::kAktiviert] = q.value(1).toInt() != 0;
-        s[Key::kTyp] = q.value(2).toInt();
-        s[Key::kIntervall] = q.value(3).toInt();
-        s[Key::kWiederholung] = q.value(4).toInt();
-        s[Key::kRelativesIntervall] = q.value(5).toInt();
-        s[Key::kTagesEinheit] = q.value(6).toInt();
-        s[Key::kTagesIntervall] = q.value(7).toInt();
-        s[Key::kStartZeit] = timeText(q.value(8).toInt());
-        s[Key::kEndZeit] = timeText(q.value(9).toInt());
-        s[Key::kStartDatum] = datePart(q.value(10));
-        s[Key::kEndDatum] = datePart(q.value(11));
-        schedules.append(s);
+    if (recordset.OpenQuery(ScheduleStore::jobSchedulesQuery(jobId), 2) >= 1) {
+        do {
+            cSchedule o;
+            ScheduleStore::readColumns(recordset, o);
+            QJsonObject s;
+            s[Key::kName] = o.psName;
+            s[Key::kAktiviert] = o.pbyAktiviert != 0;
+            s[Key::kTyp] = static_cast<int>(o.plFrequencyType);
+            s[Key::kIntervall] = static_cast<int>(o.plFrequencyIntervall);
+            s[Key::kWiederholung] = static_cast<int>(o.plFrequencyRecurreFactor);
+            s[Key::kRelativesIntervall] = static_cast<int>(o.plFrequencyRelativeIntervall);
+            s[Key::kTagesEinheit] = static_cast<int>(o.plFrequencySubDay);
+            s[Key::kTagesIntervall] = static_cast<int>(o.plFrequencySubDayIntervall);
+            s[Key::kStartZeit] = timeText(asNumber(o.pvActiveStartTimeOfDay));
+            s[Key::kEndZeit] = timeText(asNumber(o.pvActiveEndTimeOfDay));
+            s[Key::kStartDatum] = dayOf(o.pdtActiveStartDate);
+            s[Key::kEndDatum] = dayOf(o.pdtActiveEndDate);
+            schedules.append(s);
+        } while (recordset.Move(CRecordset::MoveNext));
     }
+    recordset.Close();
     return schedules;
 }
 
-QJsonObject jobOf(const QSqlDatabase& db, const QSqlRecord& q) {
-    const long id = q.value(0).toLongLong();
-    const int art = q.value(2).toInt();
+QJsonObject jobOf(const QSqlDatabase& db, const JobRecord& rec) {
+    const int art = rec.bytDatenArt;
     QJsonObject job;
-    job[Key::kName] = q.value(1).toString();
+    job[Key::kName] = rec.sName;
     job[Key::kAuftragsart] = art;
-    job[Key::kBeschreibung] = q.value(3).toString();
-    job[Key::kAktiviert] = q.value(4).toInt() != 0;
-    job[Key::kMandant] = clientNumber(db, q.value(8).toLongLong());
-    job[Key::kMandKanz] = q.value(9).toInt();
-    job[Key::kEinzelLog] = q.value(12).toInt() != 0;
-    job[Key::kFremdFormat] = q.value(13).toInt() != 0;
-    job[Key::kFremdDateifilter] = q.value(14).toString();
-    job[Key::kFremdMapping] = q.value(15).toString();
-    job[Key::kVerzeichnis3] = q.value(7).toString();
+    job[Key::kBeschreibung] = rec.sBeschreibung;
+    job[Key::kAktiviert] = rec.bytAktiviert != 0;
+    job[Key::kMandant] = clientNumber(db, rec.lMandant);
+    job[Key::kMandKanz] = rec.bytMandKanz;
+    job[Key::kEinzelLog] = rec.bSingleLog;
+    job[Key::kFremdFormat] = rec.bFremdFormat;
+    job[Key::kFremdDateifilter] = rec.sFremdDateifilter;
+    job[Key::kFremdMapping] = rec.sFremdMapping;
+    job[Key::kVerzeichnis3] = rec.sVerzeichnis3;
     if (jobHatArchivAnmeldung(art)) {
         // The archive login: the staff member by name; the password stays behind.
-        job[Key::kMitarbeiter] = staffName(db, q.value(5).toString().toLong());
+        job[Key::kMitarbeiter] = staffName(db, rec.lArchivMitarbeiter);
     } else {
-        job[Key::kVerzeichnis1] = q.value(5).toString();
-        job[Key::kVerzeichnis2] = q.value(6).toString();
+        job[Key::kVerzeichnis1] = rec.sVerzeichnis1;
+        job[Key::kVerzeichnis2] = rec.sVerzeichnis2;
     }
-    const Zusatzinfo info = zusatzinfoLesen(
-        art, zusatzinfoMitVorgabe(art, q.value(11).toString(), q.value(10).toLongLong()));
+    const Zusatzinfo info = zusatzinfoLesen(art, rec.sZusatzinfo);
     if (zusatzinfoMitMitarbeiter(art)) {
         job[Key::kMitarbeiter] = staffName(db, info.lMitarbeiterId);
     }
@@ -108,31 +111,37 @@ QJsonObject jobOf(const QSqlDatabase& db, const QSqlRecord& q) {
         job[Key::kSkript] = info.sSkript;
         job[Key::kTextdateien] = info.sTextdateien;
     }
-    job[Key::kZeitplaene] = schedulesOf(db, id);
     return job;
 }
 
 }  // namespace
 
-QByteArray exportJobs(const QString& connectionName, const QList<long>& jobIds) {
-    const QSqlDatabase db = QSqlDatabase::database(connectionName, false);
-    QSqlQuery q = run(db, QStringLiteral("select idAutoJob, Name, DatenArt, Beschreibung, "
-                                         "Aktiviert, MTAPath, BackupPath, ErrorMTA, "
-                                         "Ps_Id_Mandant, MandKanz, Ps_Id_Mitarbeiter, Zusatzinfo, "
-                                         "SingleLog, FremdFormat, FremdDateifilter, FremdMapping "
-                                         "from tAutoJobJob order by idAutoJob"));
-    // Every job is read before the first of its schedules: a connection to a server delivers
-    // the rows of one query at a time.
-    QList<QSqlRecord> rows;
-    while (q.next()) {
-        if (jobIds.isEmpty() || jobIds.contains(static_cast<long>(q.value(0).toLongLong()))) {
-            rows << q.record();
-        }
+QByteArray exportJobs(Database& database, const QList<long>& jobIds) {
+    const QSqlDatabase db = QSqlDatabase::database(database.connectionName(), false);
+    const std::unique_ptr<CRecordset> recordset = database.recordsetFactory()();
+    recordset->Connect();
+    // The jobs are read through the editor's reader, each before the first of its schedules:
+    // a connection to a server delivers the rows of one query at a time.
+    QList<JobRecord> records;
+    if (recordset->OpenQuery(JobStore::allRowsQuery(), 2) >= 1) {
+        do {
+            const long id = recordset->ReadLong(QStringLiteral("idAutoJob"));
+            if (jobIds.isEmpty() || jobIds.contains(id)) {
+                JobRecord rec;
+                rec.lJobId = id;
+                JobStore::readColumns(*recordset, rec);
+                records << rec;
+            }
+        } while (recordset->Move(CRecordset::MoveNext));
     }
+    recordset->Close();
     QJsonArray jobs;
-    for (const QSqlRecord& row : rows) {
-        jobs.append(jobOf(db, row));
+    for (const JobRecord& rec : records) {
+        QJsonObject job = jobOf(db, rec);
+        job[Key::kZeitplaene] = schedulesOf(*recordset, rec.lJobId);
+        jobs.append(job);
     }
+    recordset->Disconnect();
     QJsonObject document;
     document[Key::kFormat] = kFormat;
     document[Key::kVersion] = kVersion;

@@ -1,15 +1,11 @@
 // Moving one job between the table tAutoJobJob and plain values: read, insert or update,
 // paste a copied job, and the caption of its last change.
-#include <QRegularExpression>
-#include <cmath>
-
 #include "app/LibraryObjects.h"
 #include "app/Required.h"
 #include "app/cAdminJob.h"
 #include "app/cProperties.h"
 #include "common/ErrorExit.h"
 #include "common/ModuleHelpers.h"
-#include "common/Password.h"
 #include "jobs/JobStore.h"
 #include "jobs/JobTypes.h"
 
@@ -17,16 +13,6 @@ namespace {
 
 QString jobAbfrage(long lJobId) {
     return JobStore::rowQuery(lJobId);
-}
-
-// The numeric value a text starts with, rounded to a whole number; 0 when there is none.
-long ganzzahlAusText(const QString& sText) {
-    static const QRegularExpression zahl(QStringLiteral(R"(^\s*([-+]?(\d+\.?\d*|\.\d+)))"));
-    const QRegularExpressionMatch treffer = zahl.match(sText);
-    if (!treffer.hasMatch()) {
-        return 0;
-    }
-    return std::lround(treffer.captured(1).toDouble());
 }
 
 // A date as the captions show it: day, month and year, with the time of day when there is one.
@@ -39,12 +25,6 @@ QString datumText(const QDateTime& dtWert) {
         return dtWert.toString(QStringLiteral("dd.MM.yyyy"));
     }
     return dtWert.toString(QStringLiteral("dd.MM.yyyy HH:mm:ss"));
-}
-
-bool mitarbeiterAlsVorgabe(long lDatenArt) {
-    return lDatenArt == DatenArt::Buchungen || lDatenArt == DatenArt::Kunden ||
-           lDatenArt == DatenArt::Lieferanten || lDatenArt == DatenArt::KestoDirekt ||
-           lDatenArt == DatenArt::Textdatei;
 }
 
 std::uint8_t alsByte(long lWert) {
@@ -62,42 +42,11 @@ bool cAdminJob::mAuftragLesen(JobRecord& rec) {
         JobRecord neu = rec;
         const bool bGefunden = oTL->OpenQuery(sSql, 2) >= 1;
         if (bGefunden) {
-            neu.lMandant = oTL->ReadLong(QStringLiteral("Ps_Id_Mandant"));
-            neu.bytMandKanz = alsByte(oTL->ReadLong(QStringLiteral("MandKanz")));
-            neu.sName = oTL->ReadText(QStringLiteral("Name"));
-            neu.sBeschreibung = oTL->ReadText(QStringLiteral("Beschreibung"));
-            neu.bytAktiviert = alsByte(oTL->ReadLong(QStringLiteral("Aktiviert")));
-            neu.bytDatenArt = alsByte(oTL->ReadLong(QStringLiteral("DatenArt")));
-            if (jobHatArchivAnmeldung(neu.bytDatenArt)) {
-                neu.lArchivMitarbeiter = ganzzahlAusText(oTL->ReadText(QStringLiteral("MTAPath")));
-                neu.sArchivKennwort =
-                    msPasswortKodieren(oTL->ReadText(QStringLiteral("BackupPath")), false);
-            } else {
-                neu.sVerzeichnis1 = oTL->ReadText(QStringLiteral("MTAPath"));
-                neu.sVerzeichnis2 = oTL->ReadText(QStringLiteral("BackupPath"));
-            }
-            neu.sVerzeichnis3 = oTL->ReadText(QStringLiteral("ErrorMTA"));
+            JobStore::readColumns(*oTL, neu);
             const QDateTime dtGeaendert = oTL->ReadDate(QStringLiteral("LetzteAenderung"));
             const long lMitId = oTL->ReadLong(QStringLiteral("Ps_Id_Mitarbeiter"));
             neu.sLetzteAenderung = msGetLetzteAenderungText(dtGeaendert, lMitId);
             neu.sErstellt = datumText(oTL->ReadDate(QStringLiteral("Erstellt")));
-            neu.sZusatzinfo = oTL->ReadText(QStringLiteral("Zusatzinfo"));
-            if (neu.bytDatenArt == DatenArt::Buchungen) {
-                neu.bSingleLog = oTL->ReadBool(QStringLiteral("SingleLog"));
-                neu.bFremdFormat = oTL->ReadBool(QStringLiteral("FremdFormat"));
-                neu.sFremdDateifilter = oTL->ReadText(QStringLiteral("FremdDateifilter"));
-                neu.sFremdMapping = oTL->ReadText(QStringLiteral("FremdMapping"));
-            } else {
-                neu.bSingleLog = false;
-                neu.bFremdFormat = false;
-                neu.sFremdDateifilter.clear();
-                neu.sFremdMapping.clear();
-            }
-            // Rows older than the staff member in Zusatzinfo show their last editor instead.
-            if (mitarbeiterAlsVorgabe(neu.bytDatenArt) && neu.sZusatzinfo.isEmpty()) {
-                neu.sZusatzinfo =
-                    QString::number(oTL->ReadLong(QStringLiteral("Ps_Id_Mitarbeiter")));
-            }
         } else {
             neu.sErstellt.clear();
             neu.sName.clear();

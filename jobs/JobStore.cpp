@@ -1,9 +1,13 @@
 #include "jobs/JobStore.h"
 
+#include <QRegularExpression>
+#include <cmath>
+
 #include "common/ModuleHelpers.h"
 #include "common/Password.h"
 #include "common/Recordset.h"
 #include "jobs/JobTypes.h"
+#include "jobs/Zusatzinfo.h"
 
 namespace {
 
@@ -12,12 +16,30 @@ QString text(const QString& sWert) {
     return sWert.isNull() ? QStringLiteral("") : sWert;
 }
 
+// The numeric value a text starts with, rounded to a whole number; 0 when there is none.
+long ganzzahlAusText(const QString& sText) {
+    static const QRegularExpression zahl(QStringLiteral(R"(^\s*([-+]?(\d+\.?\d*|\.\d+)))"));
+    const QRegularExpressionMatch treffer = zahl.match(sText);
+    if (!treffer.hasMatch()) {
+        return 0;
+    }
+    return std::lround(treffer.captured(1).toDouble());
+}
+
+std::uint8_t alsByte(long lWert) {
+    return static_cast<std::uint8_t>(lWert);
+}
+
 }  // namespace
 
 namespace JobStore {
 
 QString rowQuery(long lJobId) {
     return QStringLiteral("Select * from tAutoJobJob where idAutoJob = ") + QString::number(lJobId);
+}
+
+QString allRowsQuery() {
+    return QStringLiteral("Select * from tAutoJobJob order by idAutoJob");
 }
 
 QString rowsQuery(const QString& sBedingung) {
@@ -68,6 +90,37 @@ void writeColumns(CRecordset& oTL, const JobRecord& rec, long lMitarbeiter,
     oTL.WriteText(QStringLiteral("FremdMapping"),
                   text(bFremdFormat ? rec.sFremdMapping : QString()));
     oTL.WriteText(QStringLiteral("LetzteAenderung"), msDatumZeit(dtJetzt));
+}
+
+void readColumns(CRecordset& oTL, JobRecord& rec) {
+    rec.lMandant = oTL.ReadLong(QStringLiteral("Ps_Id_Mandant"));
+    rec.bytMandKanz = alsByte(oTL.ReadLong(QStringLiteral("MandKanz")));
+    rec.sName = oTL.ReadText(QStringLiteral("Name"));
+    rec.sBeschreibung = oTL.ReadText(QStringLiteral("Beschreibung"));
+    rec.bytAktiviert = alsByte(oTL.ReadLong(QStringLiteral("Aktiviert")));
+    rec.bytDatenArt = alsByte(oTL.ReadLong(QStringLiteral("DatenArt")));
+    if (jobHatArchivAnmeldung(rec.bytDatenArt)) {
+        rec.lArchivMitarbeiter = ganzzahlAusText(oTL.ReadText(QStringLiteral("MTAPath")));
+        rec.sArchivKennwort = msPasswortKodieren(oTL.ReadText(QStringLiteral("BackupPath")), false);
+    } else {
+        rec.sVerzeichnis1 = oTL.ReadText(QStringLiteral("MTAPath"));
+        rec.sVerzeichnis2 = oTL.ReadText(QStringLiteral("BackupPath"));
+    }
+    rec.sVerzeichnis3 = oTL.ReadText(QStringLiteral("ErrorMTA"));
+    rec.sZusatzinfo =
+        zusatzinfoMitVorgabe(rec.bytDatenArt, oTL.ReadText(QStringLiteral("Zusatzinfo")),
+                             oTL.ReadLong(QStringLiteral("Ps_Id_Mitarbeiter")));
+    if (rec.bytDatenArt == DatenArt::Buchungen) {
+        rec.bSingleLog = oTL.ReadBool(QStringLiteral("SingleLog"));
+        rec.bFremdFormat = oTL.ReadBool(QStringLiteral("FremdFormat"));
+        rec.sFremdDateifilter = oTL.ReadText(QStringLiteral("FremdDateifilter"));
+        rec.sFremdMapping = oTL.ReadText(QStringLiteral("FremdMapping"));
+    } else {
+        rec.bSingleLog = false;
+        rec.bFremdFormat = false;
+        rec.sFremdDateifilter.clear();
+        rec.sFremdMapping.clear();
+    }
 }
 
 long insert(CRecordset& oTL, const JobRecord& rec, long lMitarbeiter, const QDateTime& dtJetzt) {

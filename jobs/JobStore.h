@@ -14,6 +14,9 @@ namespace JobStore {
 // The query that finds the row of a job (none for an id without a row).
 QString rowQuery(long lJobId);
 
+// The query of every job in the order of their ids.
+QString allRowsQuery();
+
 // The query and the deletion of the jobs whose id meets the condition (" = 5", " IN (1,2)").
 QString rowsQuery(const QString& sBedingung);
 QString deleteStatement(const QString& sBedingung);
@@ -26,6 +29,12 @@ void toggleActive(CRecordset& oTL);
 // the moment of the change.
 void writeColumns(CRecordset& oTL, const JobRecord& rec, long lMitarbeiter,
                   const QDateTime& dtJetzt, bool bNeu);
+
+// Reads the stored values of the record set's current row into rec: what the editor shows
+// and the export carries, without the captions. A job type that names its staff member in
+// Zusatzinfo and an older row without one give the row's last editor. The fields of the
+// other kind of directory columns (paths or archive login) keep what rec held.
+void readColumns(CRecordset& oTL, JobRecord& rec);
 
 // Adds the job as a new row through the record set, which is connected; its new id.
 long insert(CRecordset& oTL, const JobRecord& rec, long lMitarbeiter, const QDateTime& dtJetzt);

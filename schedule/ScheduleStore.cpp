@@ -1,6 +1,7 @@
 #include "schedule/ScheduleStore.h"
 
 #include "common/Recordset.h"
+#include "schedule/ScheduleRow.h"
 #include "schedule/ScheduleTime.h"
 #include "schedule/cSchedule.h"
 
@@ -23,6 +24,17 @@ namespace ScheduleStore {
 QString rowsQuery(const QString& sSchluessel, long lId) {
     return QStringLiteral(" select * from tAutoJobSchedule where ") + sSchluessel +
            QStringLiteral(" = ") + QString::number(lId);
+}
+
+QString jobSchedulesQuery(long lJobId) {
+    return rowsQuery(QStringLiteral("idAutoJob"), lJobId) +
+           QStringLiteral(" order by idAutoJobSchedule");
+}
+
+void readColumns(CRecordset& oTL, cSchedule& o) {
+    o.psName = oTL.ReadText(QStringLiteral("Name"));
+    o.pbyAktiviert = alsByte(oTL.ReadLong(QStringLiteral("Aktiviert")));
+    leseZeitplanWiederholung(oTL, o);
 }
 
 void writeColumns(CRecordset& oTL, const cSchedule& o, long lJobId, long lMitarbeiter,

@@ -13,6 +13,12 @@ namespace ScheduleStore {
 // The query of the schedules whose column sSchluessel (idAutoJobSchedule or idAutoJob) is lId.
 QString rowsQuery(const QString& sSchluessel, long lId);
 
+// The query of a job's schedules in the order in which they were made.
+QString jobSchedulesQuery(long lJobId);
+
+// Reads the current row's name, active flag, frequency, times and dates into the schedule.
+void readColumns(CRecordset& oTL, cSchedule& o);
+
 // Sets every column of the schedule of job lJobId on the record set's current row (a new one
 // after AddNew); lMitarbeiter is written as the last editor and dtJetzt as the moment.
 void writeColumns(CRecordset& oTL, const cSchedule& o, long lJobId, long lMitarbeiter,

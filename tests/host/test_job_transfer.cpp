@@ -26,7 +26,7 @@ QByteArray bytesOf(const QJsonObject& o) {
 class JobTransferTest : public ProgramFixture {
   protected:
     QString connection() { return program_->database().connectionName(); }
-    QByteArray exportAll() { return exportJobs(connection(), {}); }
+    QByteArray exportAll() { return exportJobs(program_->database(), {}); }
     QString jobCount() { return scalar(QStringLiteral("select count(*) from tAutoJobJob")); }
     void deleteAllJobs() {
         QSqlQuery q(QSqlDatabase::database(connection(), false));
@@ -115,7 +115,7 @@ TEST_F(JobTransferTest, RoundTripOfEveryJobTypeAndScheduleKindGivesTheSameDocume
 
 TEST_F(JobTransferTest, SelectedJobsOnlyInTheOrderOfTheirIds) {
     const QJsonArray jobs =
-        parse(exportJobs(connection(), {9, 2}))[QStringLiteral("auftraege")].toArray();
+        parse(exportJobs(program_->database(), {9, 2}))[QStringLiteral("auftraege")].toArray();
     ASSERT_EQ(jobs.size(), 2);
     EXPECT_EQ(jobs[0][QStringLiteral("name")].toString(),
               QStringLiteral("Lieferanten Autohaus Lindner"));
@@ -124,7 +124,7 @@ TEST_F(JobTransferTest, SelectedJobsOnlyInTheOrderOfTheirIds) {
 }
 
 TEST_F(JobTransferTest, ANameThatExistsIsAddedAsANewJobAndNamedInTheReport) {
-    const QByteArray doc = exportJobs(connection(), {2});
+    const QByteArray doc = exportJobs(program_->database(), {2});
     const ImportResult r = importJobs(program_->database(), doc, 1);
     ASSERT_TRUE(r.written);
     EXPECT_EQ(r.nameClashes, QStringList{QStringLiteral("Lieferanten Autohaus Lindner")});
@@ -331,7 +331,7 @@ QStringList storedRows(const QString& connection, const QString& table, const QS
 // schedules.
 TEST_F(JobTransferTest, AnImportedJobIsStoredAsThePastedCopyOfTheSameJob) {
     const QString name = QStringLiteral("Buchungen Bäckerei Huber (CSV)");
-    const QByteArray document = exportJobs(connection(), {3});
+    const QByteArray document = exportJobs(program_->database(), {3});
     real_input::clickRow(list(), real_input::rowShowing(list(), QStringLiteral("Name"), name));
     chooseMenu(QStringLiteral("Bearbeiten"), QStringLiteral("Kopieren"));
     chooseMenu(QStringLiteral("Bearbeiten"), QStringLiteral("Einfügen"));
