@@ -133,12 +133,7 @@ void cAdminJob::mUpdateLetztAenderung() {
     ErrorExit ex(QStringLiteral("mUpdateLetztAenderung"), kKlasse);
     try {
         auto oTL = neuesRecordset(ex);
-        const QString sSql =
-            QStringLiteral(
-                "update tAutoJobJob set LetzteAenderung = getdate(), Ps_Id_Mitarbeiter=") +
-            QString::number(required(moProperties).plMitId) +
-            QStringLiteral(" where idAutoJob like '") + QString::number(mlJobId) +
-            QStringLiteral("'");
+        const QString sSql = JobStore::touchStatement(mlJobId, required(moProperties).plMitId);
         oTL->Connect();
         oTL->Execute(sSql);
         // Disconnect comes before Close here, unlike everywhere else.

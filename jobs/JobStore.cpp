@@ -50,6 +50,13 @@ QString deleteStatement(const QString& sBedingung) {
     return QStringLiteral("delete from tAutoJobJob where idAutoJob") + sBedingung;
 }
 
+QString touchStatement(long lJobId, long lMitarbeiter) {
+    return QStringLiteral(
+               "update tAutoJobJob set LetzteAenderung = getdate(), Ps_Id_Mitarbeiter=") +
+           QString::number(lMitarbeiter) + QStringLiteral(" where idAutoJob like '") +
+           QString::number(lJobId) + QStringLiteral("'");
+}
+
 void toggleActive(CRecordset& oTL) {
     const long lAktiv = oTL.ReadLong(QStringLiteral("Aktiviert"));
     oTL.WriteLong(QStringLiteral("Aktiviert"), lAktiv == 1 ? 0 : 1);

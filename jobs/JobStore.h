@@ -21,6 +21,9 @@ QString allRowsQuery();
 QString rowsQuery(const QString& sBedingung);
 QString deleteStatement(const QString& sBedingung);
 
+// The statement that stamps a job as changed now by lMitarbeiter, when its schedules changed.
+QString touchStatement(long lJobId, long lMitarbeiter);
+
 // Turns the job on the record set's current row off when it is on, else on, and writes it.
 void toggleActive(CRecordset& oTL);
 
