@@ -10,6 +10,7 @@
 #include "common/ErrorExit.h"
 #include "common/ModuleHelpers.h"
 #include "common/Password.h"
+#include "jobs/JobRecord.h"
 #include "jobs/JobTypes.h"
 
 namespace {
