@@ -1,6 +1,5 @@
 // autojobverw-agent: plays the job agent service against a database, in bulk or live.
 
-#include <QCommandLineParser>
 #include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QFileInfo>
@@ -10,6 +9,7 @@
 #include <cstdio>
 
 #include "agent/JobAgentSimulator.h"
+#include "common/CommandLine.h"
 #include "common/ErrObject.h"
 #include "suite/Database.h"
 #include "suite/PostgresAddress.h"
@@ -38,16 +38,11 @@ QString totals(const AgentCounts& c) {
 int main(int argc, char* argv[]) {
     QCoreApplication app(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("autojobverw-agent"));
-    QCommandLineParser parser;
-    parser.setApplicationDescription(QStringLiteral(
-        "Schreibt, was der Dienst des Job-Agenten schreibt: Ausführungen in tAutoJobVerlauf und "
-        "Logeinträge in SYS_JobAgentLogDaten, zu den Aufträgen und Zeitplänen der Datenbank."));
-    parser.addHelpOption();
     const QCommandLineOption dbOption(
         QStringLiteral("db"),
         QStringLiteral("SQLite-Datenbank oder Adresse einer PostgreSQL-Datenbank "
                        "(postgresql://benutzer@host:port/name, postgresql:///name)."),
-        QStringLiteral("PATH"));
+        QStringLiteral("PFAD|ADRESSE"));
     const QCommandLineOption yearsOption(QStringLiteral("years"),
                                          QStringLiteral("Füllt so viele Jahre bis heute."),
                                          QStringLiteral("N"));
@@ -73,13 +68,19 @@ int main(int argc, char* argv[]) {
     const QCommandLineOption seedOption(QStringLiteral("seed"),
                                         QStringLiteral("Startwert des Zufalls (Vorgabe 1)."),
                                         QStringLiteral("N"), QStringLiteral("1"));
-    parser.addOptions({dbOption, yearsOption, liveOption, intervalOption, countOption, runsOption,
-                       logOption, jobOption, seedOption});
-    parser.process(app);
+    CommandLine commandLine(
+        QStringLiteral(
+            "Schreibt, was der Dienst des Job-Agenten schreibt: Ausführungen in tAutoJobVerlauf "
+            "und Logeinträge in SYS_JobAgentLogDaten, zu den Aufträgen und Zeitplänen der "
+            "Datenbank."),
+        {dbOption, yearsOption, liveOption, intervalOption, countOption, runsOption, logOption,
+         jobOption, seedOption});
+    commandLine.process(app);
+    const QCommandLineParser& parser = commandLine.parser();
 
     const QString path = parser.value(dbOption);
     if (path.isEmpty() || parser.isSet(liveOption) == parser.isSet(yearsOption)) {
-        print(QStringLiteral("Bitte --db PATH und entweder --years N oder --live angeben."),
+        print(QStringLiteral("Bitte --db PFAD und entweder --years N oder --live angeben."),
               stderr);
         return 2;
     }

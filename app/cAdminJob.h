@@ -11,15 +11,15 @@
 
 #include "app/ClassTrace.h"
 #include "app/GuardedCallback.h"
+#include "app/cSchedule.h"
+#include "app/cVerlaufFilter.h"
 #include "common/Host.h"
 #include "common/MessageBox.h"
 #include "common/OptionFileReader.h"
-#include "history/cVerlaufFilter.h"
-#include "jobs/JobRecord.h"
-#include "schedule/cSchedule.h"
 #include "ui/windows/frmZeitIntervall.h"
 
 class cLogDaten;
+struct JobRecord;
 class cProperties;
 class frmBuchLog;
 class frmBuchLogAbfrage;

@@ -3,8 +3,8 @@
 #include <cstddef>
 #include <cstdint>
 
-#include "headless/scenario/ScenarioCommand.h"
-#include "headless/scenario/ScenarioError.h"
+#include "scenario/ScenarioCommand.h"
+#include "scenario/ScenarioError.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     const QString text =

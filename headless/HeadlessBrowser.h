@@ -6,8 +6,8 @@
 #include <memory>
 #include <vector>
 
-#include "headless/BrowserRows.h"
-#include "headless/BrowserSettings.h"
+#include "browser/BrowserRows.h"
+#include "browser/BrowserSettings.h"
 #include "headless/HeadlessControl.h"
 #include "headless/HeadlessTool.h"
 

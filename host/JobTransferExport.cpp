@@ -8,6 +8,7 @@
 #include <QSqlQuery>
 #include <QVariant>
 
+#include "app/cSchedule.h"
 #include "common/ErrorExit.h"
 #include "common/Recordset.h"
 #include "host/JobTransferFields.h"
@@ -17,7 +18,6 @@
 #include "jobs/JobTypes.h"
 #include "jobs/Zusatzinfo.h"
 #include "schedule/ScheduleStore.h"
-#include "schedule/cSchedule.h"
 #include "suite/Database.h"
 
 namespace JobTransfer {

@@ -13,6 +13,7 @@
 #include <QVariant>
 #include <optional>
 
+#include "app/cSchedule.h"
 #include "host/JobTransferFields.h"
 #include "host/JobTransferSql.h"
 #include "jobs/ClientKinds.h"
@@ -21,7 +22,6 @@
 #include "jobs/Zusatzinfo.h"
 #include "schedule/RecurrenceRanges.h"
 #include "schedule/ScheduleStore.h"
-#include "schedule/cSchedule.h"
 #include "suite/Database.h"
 
 namespace JobTransfer {

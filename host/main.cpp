@@ -2,10 +2,10 @@
 // database unless one is named) and shows the job agent's document, the list of automatic
 // jobs, in a main window with the host's menus.
 #include <QApplication>
-#include <QCommandLineParser>
 #include <QIcon>
 #include <QTextStream>
 
+#include "common/CommandLine.h"
 #include "common/ErrorExit.h"
 #include "gui/QtUi.h"
 #include "host/DatabaseOpenFailure.h"
@@ -57,56 +57,57 @@ bool prepareDisplay(int argc, char* argv[]) {
 // Reads the options into the configuration; the document data of the options win over the
 // configuration file's.
 Options parseOptions(const QApplication& app, SuiteConfig& config) {
-    QCommandLineParser parser;
-    parser.setApplicationDescription(QStringLiteral(
-        "Konfiguration automatischer Aufträge. Without --db the program opens the embedded "
-        "demo database, creating it on first start."));
-    parser.addHelpOption();
-    const QCommandLineOption db(QStringLiteral("db"),
-                                QStringLiteral("The database to open: an SQLite file (created "
-                                               "with the schema and the demo data when new), or "
-                                               "postgresql://user@host:port/name for a database "
-                                               "on a PostgreSQL server (given the schema when "
-                                               "empty; the password comes from ~/.pgpass or "
-                                               "PGPASSWORD)."),
-                                QStringLiteral("PATH|URL"));
+    const QCommandLineOption db(
+        QStringLiteral("db"),
+        QStringLiteral("Die Datenbank: eine SQLite-Datei (neu angelegt mit dem Schema und den "
+                       "Demodaten) oder postgresql://benutzer@host:port/name für eine Datenbank "
+                       "auf einem PostgreSQL-Server (leer erhält sie das Schema; das Kennwort "
+                       "kommt aus ~/.pgpass oder PGPASSWORD)."),
+        QStringLiteral("PFAD|ADRESSE"));
     const QCommandLineOption configFile(
         QStringLiteral("config"),
-        QStringLiteral("The configuration file (default: %1).").arg(SuiteConfig::defaultFile()),
-        QStringLiteral("FILE"));
-    const QCommandLineOption mandant(QStringLiteral("mandant"),
-                                     QStringLiteral("Id of the client the document is opened "
-                                                    "for (0: all)."),
-                                     QStringLiteral("ID"));
+        QStringLiteral("Die Konfigurationsdatei (Vorgabe: %1).").arg(SuiteConfig::defaultFile()),
+        QStringLiteral("DATEI"));
+    const QCommandLineOption mandant(
+        QStringLiteral("mandant"),
+        QStringLiteral("Id des Mandanten, für den das Dokument geöffnet wird (0: alle)."),
+        QStringLiteral("ID"));
     const QCommandLineOption mitarbeiter(QStringLiteral("mitarbeiter"),
-                                         QStringLiteral("Id of the staff member working."),
+                                         QStringLiteral("Id des arbeitenden Mitarbeiters."),
                                          QStringLiteral("ID"));
     const QCommandLineOption aktentyp(
         QStringLiteral("aktentyp"),
-        QStringLiteral("Kind of file: 1 clients only, 2 offices only, 4 clients and offices."),
+        QStringLiteral("Art der Akte: 1 nur Mandanten, 2 nur Kanzleien, 4 Mandanten und "
+                       "Kanzleien."),
         QStringLiteral("N"));
     const QCommandLineOption installationsart(
         QStringLiteral("installationsart"),
-        QStringLiteral("Kind of installation: 1 local, 0 server."), QStringLiteral("N"));
+        QStringLiteral("Art der Installation: 1 lokal, 0 Server."), QStringLiteral("N"));
     const QCommandLineOption summary(
         QStringLiteral("summary"),
-        QStringLiteral("Print what the database holds instead of opening the window."));
+        QStringLiteral("Zeigt, was die Datenbank enthält, statt das Fenster zu öffnen."));
     const QCommandLineOption shot(
         QStringLiteral("shot"),
-        QStringLiteral("Open the window off screen, save a picture of it and end."),
-        QStringLiteral("FILE"));
+        QStringLiteral("Öffnet das Fenster ohne Bildschirm, speichert ein Bild davon in DATEI "
+                       "und endet."),
+        QStringLiteral("DATEI"));
     const QCommandLineOption exportJobs(
         QStringLiteral("export"),
-        QStringLiteral("Write the definitions of all jobs with their schedules to FILE (JSON)."),
-        QStringLiteral("FILE"));
+        QStringLiteral("Schreibt die Definitionen aller Aufträge mit ihren Zeitplänen in DATEI "
+                       "(JSON)."),
+        QStringLiteral("DATEI"));
     const QCommandLineOption importJobs(
         QStringLiteral("import"),
-        QStringLiteral("Add the jobs of FILE (written by --export) as new jobs; nothing is "
-                       "written when the file has a problem."),
-        QStringLiteral("FILE"));
-    parser.addOptions({db, configFile, mandant, mitarbeiter, aktentyp, installationsart, summary,
-                       shot, exportJobs, importJobs});
-    parser.process(app);
+        QStringLiteral("Fügt die Aufträge aus DATEI (von --export geschrieben) als neue "
+                       "Aufträge hinzu; hat die Datei einen Fehler, wird nichts geschrieben."),
+        QStringLiteral("DATEI"));
+    CommandLine commandLine(
+        QStringLiteral("Konfiguration automatischer Aufträge. Ohne --db öffnet das Programm die "
+                       "eingebettete Demodatenbank und legt sie beim ersten Start an."),
+        {db, configFile, mandant, mitarbeiter, aktentyp, installationsart, summary, shot,
+         exportJobs, importJobs});
+    commandLine.process(app);
+    const QCommandLineParser& parser = commandLine.parser();
 
     Options o;
     o.configFile = parser.isSet(configFile) ? parser.value(configFile) : SuiteConfig::defaultFile();

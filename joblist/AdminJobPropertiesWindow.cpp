@@ -10,6 +10,7 @@
 #include "common/ModuleHelpers.h"
 #include "common/Services.h"
 #include "joblist/ListTools.h"
+#include "jobs/PropertiesTools.h"
 #include "ui/Browser.h"
 #include "ui/windows/frmEigenschaften.h"
 

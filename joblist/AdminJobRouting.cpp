@@ -4,6 +4,7 @@
 #include "common/ErrorExit.h"
 #include "common/ModuleHelpers.h"
 #include "joblist/ListTools.h"
+#include "jobs/PropertiesTools.h"
 #include "ui/Browser.h"
 
 namespace {

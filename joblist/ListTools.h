@@ -27,17 +27,6 @@ inline const QString Bearbeiten = QStringLiteral("Bearbeiten");
 inline const QString Ansicht = QStringLiteral("Ansicht");
 }  // namespace MenuBand
 
-// The tools of the properties window's bar, band "barMain".
-namespace PropertiesTool {
-inline const QString Save = QStringLiteral("save");
-inline const QString New = QStringLiteral("new");
-inline const QString Delete = QStringLiteral("delete");
-inline const QString First = QStringLiteral("first");
-inline const QString Previous = QStringLiteral("previous");
-inline const QString Next = QStringLiteral("next");
-inline const QString Last = QStringLiteral("last");
-}  // namespace PropertiesTool
-
 // What mPaketBearbeiten is asked to do.
 namespace PaketAktion {
 constexpr int Neu = 1;

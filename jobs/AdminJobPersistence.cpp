@@ -6,6 +6,7 @@
 #include "app/cProperties.h"
 #include "common/ErrorExit.h"
 #include "common/ModuleHelpers.h"
+#include "jobs/JobRecord.h"
 #include "jobs/JobStore.h"
 #include "jobs/JobTypes.h"
 

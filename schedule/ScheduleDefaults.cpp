@@ -1,8 +1,8 @@
 #include "schedule/ScheduleDefaults.h"
 
+#include "app/cSchedule.h"
 #include "schedule/ScheduleCodes.h"
 #include "schedule/ScheduleTime.h"
-#include "schedule/cSchedule.h"
 
 QString standardZeitplanName(long lZeilenGrdZeitplan) {
     return QStringLiteral("Zeitplan") +

@@ -3,9 +3,9 @@
 #include <QString>
 #include <limits>
 
+#include "app/cSchedule.h"
 #include "common/ErrObject.h"
 #include "common/Recordset.h"
-#include "schedule/cSchedule.h"
 
 std::int32_t alsLong32(long lWert) {
     if (lWert < std::numeric_limits<std::int32_t>::min() ||

@@ -3,9 +3,9 @@
 #include <array>
 #include <utility>
 
+#include "app/cSchedule.h"
 #include "schedule/ScheduleCodes.h"
 #include "schedule/ScheduleTime.h"
-#include "schedule/cSchedule.h"
 
 namespace {
 

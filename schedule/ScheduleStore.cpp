@@ -1,9 +1,9 @@
 #include "schedule/ScheduleStore.h"
 
+#include "app/cSchedule.h"
 #include "common/Recordset.h"
 #include "schedule/ScheduleRow.h"
 #include "schedule/ScheduleTime.h"
-#include "schedule/cSchedule.h"
 
 namespace {
 

@@ -8,7 +8,7 @@
 #include <typeinfo>
 
 #include "headless/HeadlessWindow.h"
-#include "headless/scenario/ScenarioWorld.h"
+#include "scenario/ScenarioWorld.h"
 #include "tests/host/ProgramFixture.h"
 
 namespace {

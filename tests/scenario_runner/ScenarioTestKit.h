@@ -7,9 +7,9 @@
 #include <gtest/gtest.h>
 
 #include "common/ErrorExit.h"
-#include "headless/scenario/ScenarioCommand.h"
-#include "headless/scenario/ScenarioPlay.h"
-#include "headless/scenario/ScenarioWorld.h"
+#include "scenario/ScenarioCommand.h"
+#include "scenario/ScenarioPlay.h"
+#include "scenario/ScenarioWorld.h"
 
 namespace scenario_test {
 

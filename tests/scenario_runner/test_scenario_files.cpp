@@ -4,7 +4,7 @@
 #include <QFileInfo>
 #include <QTemporaryDir>
 
-#include "headless/scenario/ScenarioFiles.h"
+#include "scenario/ScenarioFiles.h"
 
 namespace {
 

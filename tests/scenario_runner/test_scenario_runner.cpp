@@ -7,7 +7,7 @@
 #include <QFile>
 #include <QTemporaryDir>
 
-#include "headless/scenario/ScenarioProgram.h"
+#include "scenario/ScenarioProgram.h"
 #include "tests/scenario_runner/ScenarioTestKit.h"
 
 namespace {

@@ -1,9 +1,9 @@
 #include <gtest/gtest.h>
 
-#include "headless/scenario/ScenarioError.h"
-#include "headless/scenario/ScenarioEvents.h"
-#include "headless/scenario/ScenarioSyntax.h"
-#include "headless/scenario/ScenarioValue.h"
+#include "scenario/ScenarioError.h"
+#include "scenario/ScenarioEvents.h"
+#include "scenario/ScenarioSyntax.h"
+#include "scenario/ScenarioValue.h"
 
 namespace {
 

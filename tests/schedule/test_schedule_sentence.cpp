@@ -1,8 +1,8 @@
 #include <gtest/gtest.h>
 
+#include "app/cSchedule.h"
 #include "schedule/ScheduleCodes.h"
 #include "schedule/ScheduleSentence.h"
-#include "schedule/cSchedule.h"
 
 namespace {
 
