@@ -239,7 +239,9 @@ void cAdminJob::mOptTextDateienUebernehmen() {
                          grd.TextMatrix(lZeile, kTextdatei);
             sHinweis += grd.TextMatrix(lZeile, kTextdatei);
         }
-        required(mofrmEigenschaften).ctlOptFileName(1).setToolTip(sHinweis);
+        required(mofrmEigenschaften)
+            .ctlOptFileName(frmEigenschaften::OptDatei::Textdatei)
+            .setToolTip(sHinweis);
         if (sErgebnis != msTextDateien) {
             msTextDateien = sErgebnis;
             mEigenschaftenGeaendert();
