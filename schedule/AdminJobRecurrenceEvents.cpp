@@ -129,25 +129,25 @@ void cAdminJob::mofrmzeitIntervall_evFrmZeitintervallComboboxClicked(int Index) 
 }
 
 void cAdminJob::mofrmzeitIntervall_evFrmZeitintervallCommandButtonClicked(int Index) {
-    withErrorExit(
-        QStringLiteral("mofrmzeitIntervall_evFrmZeitintervallCommandButtonClicked"), kKlasse, 0,
-        [&](ErrorExit&) {
-            if (Index == kOk) {
-                const QString sMeldung = msCheckValuesFRMZeitintervall();
-                if (!sMeldung.isEmpty()) {
-                    mlMsgBox(sMeldung, kStilInformation);
-                    return 0;
-                }
-                mSpeichernZeitintervall();
-            }
-            if (auto oFenster = std::exchange(mofrmzeitIntervall, nullptr)) {
-                oFenster->window().Unload();
-            }
-            if (mofrmZeitplanEigenschaften) {
-                mofrmZeitplanEigenschaften->lblLabel(0).setCaption(msGetIntervallString());
-            }
-            return 0;
-        });
+    withErrorExit(QStringLiteral("mofrmzeitIntervall_evFrmZeitintervallCommandButtonClicked"),
+                  kKlasse, 0, [&](ErrorExit&) {
+                      if (Index == kOk) {
+                          const QString sMeldung = msCheckValuesFRMZeitintervall();
+                          if (!sMeldung.isEmpty()) {
+                              mlMsgBox(sMeldung, kStilInformation);
+                              return 0;
+                          }
+                          mSpeichernZeitintervall();
+                      }
+                      if (auto oFenster = std::exchange(mofrmzeitIntervall, nullptr)) {
+                          oFenster->window().Unload();
+                      }
+                      if (mofrmZeitplanEigenschaften) {
+                          mofrmZeitplanEigenschaften->lblLabel(frmZeitplan::Lbl::Intervall)
+                              .setCaption(msGetIntervallString());
+                      }
+                      return 0;
+                  });
 }
 
 void cAdminJob::mofrmzeitIntervall_evFRMZeitplanHilfe() {

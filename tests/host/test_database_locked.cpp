@@ -6,6 +6,7 @@
 
 #include "tests/host/ProgramFixture.h"
 #include "ui/windows/frmEigenschaften.h"
+#include "ui/windows/frmZeitplan.h"
 
 using namespace real_input;
 
@@ -90,15 +91,17 @@ TEST_F(DatabaseLockedTest, ScheduleOkWhileLockedKeepsTheDialogAndSucceedsLater) 
     whenShown(QStringLiteral("frmEigenschaften"), [&](QWidget* w) {
         clickTab(find(w, QStringLiteral("tabControl")), frmEigenschaften::Tab::Zeitplaene);
         whenShown(QStringLiteral("frmZeitplan"), [&](QWidget* plan) {
-            typeOver(find(plan, QStringLiteral("txtTextBox(0)")), QStringLiteral("Nachts"));
+            typeOver(find(plan, QStringLiteral("txtTextBox"), frmZeitplan::Txt::Name),
+                     QStringLiteral("Nachts"));
             ASSERT_TRUE(writer.lock());
-            click(find(plan, QStringLiteral("cmdCommandButton(0)")));
+            click(find(plan, QStringLiteral("cmdCommandButton"), frmZeitplan::Cmd::Ok));
             waitFor([&] { return !boxes_->shown().isEmpty(); }, 3000);
             boxesWhileLocked = boxes_->shown();
             dialogAfterFailure = shownWindow(QStringLiteral("frmZeitplan")) != nullptr;
-            nameAfterFailure = shownText(find(plan, QStringLiteral("txtTextBox(0)")));
+            nameAfterFailure =
+                shownText(find(plan, QStringLiteral("txtTextBox"), frmZeitplan::Txt::Name));
             writer.release();
-            click(find(plan, QStringLiteral("cmdCommandButton(0)")));
+            click(find(plan, QStringLiteral("cmdCommandButton"), frmZeitplan::Cmd::Ok));
         });
         click(find(w, QStringLiteral("cmdCommandButton"), frmEigenschaften::Cmd::ZeitplanNeu));
         click(find(w, QStringLiteral("cmdCommandButton"), frmEigenschaften::Cmd::Abbrechen));

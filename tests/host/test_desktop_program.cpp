@@ -11,6 +11,7 @@
 
 #include "tests/host/ProgramFixture.h"
 #include "ui/windows/frmEigenschaften.h"
+#include "ui/windows/frmZeitplan.h"
 
 using namespace real_input;
 
@@ -85,13 +86,14 @@ TEST_F(DesktopProgramTest, ScheduleCreatedThroughBothDialogs) {
     whenShown(QStringLiteral("frmEigenschaften"), [&](QWidget* w) {
         clickTab(find(w, QStringLiteral("tabControl")), frmEigenschaften::Tab::Zeitplaene);
         whenShown(QStringLiteral("frmZeitplan"), [&](QWidget* plan) {
-            typeOver(find(plan, QStringLiteral("txtTextBox(0)")), QStringLiteral("Nachts"));
+            typeOver(find(plan, QStringLiteral("txtTextBox"), frmZeitplan::Txt::Name),
+                     QStringLiteral("Nachts"));
             whenShown(QStringLiteral("frmZeitIntervall"), [&](QWidget* interval) {
                 intervalShown = true;
                 click(find(interval, QStringLiteral("cmdCommandButton(0)")));
             });
-            click(find(plan, QStringLiteral("cmdCommandButton(2)")));
-            click(find(plan, QStringLiteral("cmdCommandButton(0)")));
+            click(find(plan, QStringLiteral("cmdCommandButton"), frmZeitplan::Cmd::Aendern));
+            click(find(plan, QStringLiteral("cmdCommandButton"), frmZeitplan::Cmd::Ok));
         });
         click(find(w, QStringLiteral("cmdCommandButton"), frmEigenschaften::Cmd::ZeitplanNeu));
         click(find(w, QStringLiteral("cmdCommandButton"), frmEigenschaften::Cmd::Abbrechen));

@@ -8,6 +8,7 @@
 
 #include "tests/host/ProgramFixture.h"
 #include "ui/windows/frmEigenschaften.h"
+#include "ui/windows/frmZeitplan.h"
 
 using namespace real_input;
 
@@ -99,8 +100,8 @@ TEST_F(TextFieldsRoundTripTest, ScheduleNameIsStoredAsTyped) {
     whenShown(QStringLiteral("frmEigenschaften"), [&](QWidget* w) {
         clickTab(find(w, QStringLiteral("tabControl")), frmEigenschaften::Tab::Zeitplaene);
         whenShown(QStringLiteral("frmZeitplan"), [&](QWidget* plan) {
-            pasteOver(find(plan, QStringLiteral("txtTextBox(0)")), name);
-            click(find(plan, QStringLiteral("cmdCommandButton(0)")));
+            pasteOver(find(plan, QStringLiteral("txtTextBox"), frmZeitplan::Txt::Name), name);
+            click(find(plan, QStringLiteral("cmdCommandButton"), frmZeitplan::Cmd::Ok));
         });
         click(find(w, QStringLiteral("cmdCommandButton"), frmEigenschaften::Cmd::ZeitplanNeu));
         click(find(w, QStringLiteral("cmdCommandButton"), frmEigenschaften::Cmd::Abbrechen));

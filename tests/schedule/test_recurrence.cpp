@@ -374,7 +374,7 @@ TEST_F(Recurrence, ChecksComeInTheirOrderWithTheirFocus) {
 TEST_F(Recurrence, CancelKeepsTheRecordAndBothButtonsRewriteTheDescription) {
     auto zeitplan =
         std::make_shared<frmZeitplan>(services().windows->create(frmZeitplan::declaration()));
-    zeitplan->lblLabel(0).setCaption(kStandardIntervallText);
+    zeitplan->lblLabel(frmZeitplan::Lbl::Intervall).setCaption(kStandardIntervallText);
     A::zeitplan(a()) = zeitplan;
 
     oeffnenMitStandard();
@@ -383,7 +383,7 @@ TEST_F(Recurrence, CancelKeepsTheRecordAndBothButtonsRewriteTheDescription) {
     c("cmdCommandButton", 1).userClick();
     EXPECT_FALSE(offen());
     EXPECT_EQ(felder(record()), vorher);
-    EXPECT_EQ(zeitplan->lblLabel(0).Caption(),
+    EXPECT_EQ(zeitplan->lblLabel(frmZeitplan::Lbl::Intervall).Caption(),
               QStringLiteral("Jede 1. Woche am Sonntag, um 00:00:00"));
 
     A::oeffnen(a());
@@ -391,7 +391,8 @@ TEST_F(Recurrence, CancelKeepsTheRecordAndBothButtonsRewriteTheDescription) {
     c("cboComboBox", 0).userSelect(3);
     c("ctlMaskEdBox", 0).userTime(QStringLiteral("09:30"));
     ok();
-    EXPECT_EQ(zeitplan->lblLabel(0).Caption(), QStringLiteral("Jeden 3. Tag, um 09:30:00"));
+    EXPECT_EQ(zeitplan->lblLabel(frmZeitplan::Lbl::Intervall).Caption(),
+              QStringLiteral("Jeden 3. Tag, um 09:30:00"));
     A::zeitplan(a()).reset();
 }
 
