@@ -10,6 +10,7 @@
 #include <QTest>
 
 #include "ui/windows/frmEigenschaften.h"
+#include "ui/windows/frmLogDatenDel.h"
 
 void ProgramFixture::SetUp() {
     ASSERT_TRUE(dir_.isValid());
@@ -98,7 +99,8 @@ void ProgramFixture::deleteTodaysServiceLog() {
     real_input::whenShown(QStringLiteral("frmLogDatenDel"), [&](QWidget* w) {
         deleting = true;
         boxes_->answerNext(QStringLiteral("Ja"));
-        real_input::click(real_input::find(w, QStringLiteral("cmdAktion(0)")));
+        real_input::click(
+            real_input::find(w, QStringLiteral("cmdAktion"), frmLogDatenDel::Aktion::Ok));
     });
     chooseMenu(QStringLiteral("Bearbeiten"), QStringLiteral("Logdaten Dienst löschen"));
     ASSERT_TRUE(real_input::waitFor(

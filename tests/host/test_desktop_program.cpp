@@ -11,6 +11,7 @@
 
 #include "tests/host/ProgramFixture.h"
 #include "ui/windows/frmEigenschaften.h"
+#include "ui/windows/frmVerlauf.h"
 #include "ui/windows/frmZeitplan.h"
 
 using namespace real_input;
@@ -173,7 +174,8 @@ TEST_F(DesktopProgramTest, HostMenusAgreeWithTheListsToolsAndReachTheirCommands)
     QString jobName;
     whenShown(QStringLiteral("frmVerlauf"), [&](QWidget* w) {
         history = w->windowTitle();
-        if (auto* name = qobject_cast<QLabel*>(find(w, QStringLiteral("lblLabel(0)")))) {
+        if (auto* name = qobject_cast<QLabel*>(
+                find(w, QStringLiteral("lblLabel"), frmVerlauf::Lbl::Auftragsname))) {
             jobName = name->text();
         }
         w->close();
