@@ -12,6 +12,7 @@
 #include "tests/host/ProgramFixture.h"
 #include "ui/windows/frmEigenschaften.h"
 #include "ui/windows/frmVerlauf.h"
+#include "ui/windows/frmZeitIntervall.h"
 #include "ui/windows/frmZeitplan.h"
 
 using namespace real_input;
@@ -91,7 +92,8 @@ TEST_F(DesktopProgramTest, ScheduleCreatedThroughBothDialogs) {
                      QStringLiteral("Nachts"));
             whenShown(QStringLiteral("frmZeitIntervall"), [&](QWidget* interval) {
                 intervalShown = true;
-                click(find(interval, QStringLiteral("cmdCommandButton(0)")));
+                click(
+                    find(interval, QStringLiteral("cmdCommandButton"), frmZeitIntervall::Cmd::Ok));
             });
             click(find(plan, QStringLiteral("cmdCommandButton"), frmZeitplan::Cmd::Aendern));
             click(find(plan, QStringLiteral("cmdCommandButton"), frmZeitplan::Cmd::Ok));
