@@ -7,6 +7,7 @@
 
 #include "common/ErrObject.h"
 #include "suite/PostgresAddress.h"
+#include "suite/PostgresConnection.h"
 #include "suite/SqlErrors.h"
 
 namespace {
@@ -27,21 +28,12 @@ RawPostgres::RawPostgres(const QString& address) {
     static int serial = 0;
     connection_ = QStringLiteral("bench-raw-postgres-%1").arg(++serial);
     const PostgresAddress parsed = PostgresAddress::parse(address);
-    QSqlDatabase db = QSqlDatabase::addDatabase(QStringLiteral("QPSQL"), connection_);
-    db.setHostName(parsed.host);
-    if (parsed.port != 0) {
-        db.setPort(parsed.port);
-    }
-    db.setUserName(parsed.user);
-    db.setDatabaseName(parsed.database);
-    db.setConnectOptions(parsed.options.join(u';'));
-    if (!db.open()) {
-        const QString text = db.lastError().text();
-        db = QSqlDatabase();
-        QSqlDatabase::removeDatabase(connection_);
+    try {
+        PostgresConnection::open(connection_, parsed, {QStringLiteral("autojobverw-bench")});
+    } catch (const RaisedError& e) {
         throw SqlErrors::raised(
             ErrNumber::Database,
-            QStringLiteral("Keine Verbindung zu %1: %2").arg(parsed.database, text));
+            QStringLiteral("Keine Verbindung zu %1: %2").arg(parsed.database, e.err().Description));
     }
 }
 

@@ -6,8 +6,11 @@
 #include <algorithm>
 
 #include "gui/QtWindow.h"
+#include "ui/windows/frmEigenschaften.h"
 
 namespace {
+
+using F = frmEigenschaften;
 
 constexpr int kFieldColumn = 1;
 constexpr int kChooserColumn = 2;
@@ -31,12 +34,12 @@ class EditorLayout {
         column->addLayout(body, 1);
         if (QtControlView* tabs = window_.view(QStringLiteral("tabControl"))) {
             body->addWidget(tabs->widget(), 1);
-            general(tabs->area(0));
-            schedules(tabs->area(1));
+            general(tabs->area(F::Tab::Allgemein));
+            schedules(tabs->area(F::Tab::Zeitplaene));
         }
         auto* buttons = new QHBoxLayout;
         buttons->addStretch(1);
-        for (int index : {0, 1, 7}) {
+        for (int index : {F::Cmd::Ok, F::Cmd::Abbrechen, F::Cmd::Uebernehmen}) {
             addTo(buttons, widget("cmdCommandButton", index));
         }
         body->addLayout(buttons);
@@ -76,28 +79,28 @@ class EditorLayout {
         captionWidth_ = widestCaption();
         // The fields of the panels line up with those above, inside their frames' margins.
         head->setColumnMinimumWidth(0, captionWidth_ + kPanelIndent);
-        for (QWidget* field :
-             {widget("cboComboBox", 0), widget("cboComboBox", 2), widget("ctlMandant")}) {
+        for (QWidget* field : {widget("cboComboBox", F::Cbo::Auftragsart),
+                               widget("cboComboBox", F::Cbo::MandKanz), widget("ctlMandant")}) {
             if (field) {
                 field->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
             }
         }
         head->setColumnStretch(1, 2);
         head->setColumnStretch(2, 1);
-        put(head, caption("txtTextBox", 0), 0, 0);
-        put(head, widget("txtTextBox", 0), 0, 1, 2);
-        put(head, caption("cboComboBox", 0), 1, 0);
-        put(head, widget("cboComboBox", 0), 1, 1);
-        put(head, widget("chkCheckBox", 0), 1, 2);
-        put(head, widget("cboComboBox", 2), 2, 1);
+        put(head, caption("txtTextBox", F::Txt::Name), 0, 0);
+        put(head, widget("txtTextBox", F::Txt::Name), 0, 1, 2);
+        put(head, caption("cboComboBox", F::Cbo::Auftragsart), 1, 0);
+        put(head, widget("cboComboBox", F::Cbo::Auftragsart), 1, 1);
+        put(head, widget("chkCheckBox", F::Chk::Aktiviert), 1, 2);
+        put(head, widget("cboComboBox", F::Cbo::MandKanz), 2, 1);
         put(head, widget("ctlMandant"), 2, 2);
-        put(head, caption("txtTextBox", 2), 3, 0, 1, Qt::AlignTop);
-        if (QWidget* description = widget("txtTextBox", 2)) {
+        put(head, caption("txtTextBox", F::Txt::Beschreibung), 3, 0, 1, Qt::AlignTop);
+        if (QWidget* description = widget("txtTextBox", F::Txt::Beschreibung)) {
             description->setMaximumHeight(description->fontMetrics().lineSpacing() * 4 + 12);
             head->addWidget(description, 3, 1, 1, 2);
         }
-        put(head, widget("lblLabel", 1), 4, 0);
-        put(head, widget("lblLabel", 2), 4, 1);
+        put(head, widget("lblLabel", F::Lbl::Erstellt), 4, 0);
+        put(head, widget("lblLabel", F::Lbl::ErstelltDatum), 4, 1);
         if (auto* changed = qobject_cast<QLabel*>(widget("lblLetzteAenderung"))) {
             changed->setWordWrap(false);
             head->addWidget(changed, 4, 2, Qt::AlignRight);
@@ -119,7 +122,7 @@ class EditorLayout {
         }
         // Takes the height when no panel that grows is shown.
         column->addStretch(1);
-        if (QWidget* clock = widget("lblLabel", 0)) {
+        if (QWidget* clock = widget("lblLabel", F::Lbl::RechnerDatum)) {
             clock->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
             column->addWidget(clock);
         }
@@ -197,7 +200,8 @@ class EditorLayout {
         auto* row = new QHBoxLayout(page);
         addTo(row, widget("grdZeitplan"), 1);
         auto* buttons = new QVBoxLayout;
-        for (int index : {3, 4, 5, 9}) {
+        for (int index : {F::Cmd::ZeitplanNeu, F::Cmd::ZeitplanBearbeiten, F::Cmd::ZeitplanLoeschen,
+                          F::Cmd::ZeitplanKopieren}) {
             addTo(buttons, widget("cmdCommandButton", index));
         }
         buttons->addStretch(1);

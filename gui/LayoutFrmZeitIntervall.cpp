@@ -5,8 +5,11 @@
 #include <QVBoxLayout>
 
 #include "gui/QtWindow.h"
+#include "ui/windows/frmZeitIntervall.h"
 
 namespace {
+
+using I = frmZeitIntervall;
 
 class RecurrenceLayout {
   public:
@@ -18,9 +21,9 @@ class RecurrenceLayout {
 
         auto* top = new QGridLayout;
         optionColumn();
-        put(top, frame(0), 0, 0);
+        put(top, frame(I::Fra::Haeufigkeit), 0, 0);
         // The three frames of the frequencies lie in one cell; the controller shows one.
-        for (int index : {1, 5, 2}) {
+        for (int index : {I::Fra::Taeglich, I::Fra::Woechentlich, I::Fra::Monatlich}) {
             put(top, frame(index), 0, 1);
         }
         daily();
@@ -30,15 +33,15 @@ class RecurrenceLayout {
         column->addLayout(top);
 
         perDay();
-        column->addWidget(frame(3));
+        column->addWidget(frame(I::Fra::ProTag));
         duration();
-        column->addWidget(frame(4));
+        column->addWidget(frame(I::Fra::Dauer));
         column->addStretch(1);
 
         auto* bottom = new QHBoxLayout;
-        addTo(bottom, widget("lblLabel", 6), 1);
-        addTo(bottom, widget("cmdCommandButton", 0));
-        addTo(bottom, widget("cmdCommandButton", 1));
+        addTo(bottom, widget("lblLabel", I::Lbl::Auftragsname), 1);
+        addTo(bottom, widget("cmdCommandButton", I::Cmd::Ok));
+        addTo(bottom, widget("cmdCommandButton", I::Cmd::Abbrechen));
         column->addLayout(bottom);
     }
 
@@ -74,9 +77,10 @@ class RecurrenceLayout {
     }
 
     void optionColumn() {
-        if (QWidget* area = inside(0)) {
+        if (QWidget* area = inside(I::Fra::Haeufigkeit)) {
             auto* options = new QVBoxLayout(area);
-            for (int index : {0, 1, 2}) {
+            for (int index : {I::Haeufigkeit::Taeglich, I::Haeufigkeit::Woechentlich,
+                              I::Haeufigkeit::Monatlich}) {
                 addTo(options, widget("optHaeufigkeit", index));
             }
             options->addStretch(1);
@@ -84,20 +88,20 @@ class RecurrenceLayout {
     }
 
     void daily() {
-        if (QWidget* area = inside(1)) {
+        if (QWidget* area = inside(I::Fra::Taeglich)) {
             auto* grid = new QGridLayout(area);
-            comboRow(grid, 0, 0, 0);
-            put(grid, widget("lblLabel", 0), 0, 2);
+            comboRow(grid, 0, 0, I::Cbo::TageAlle);
+            put(grid, widget("lblLabel", I::Lbl::Tage), 0, 2);
             grid->setRowStretch(1, 1);
             grid->setColumnStretch(3, 1);
         }
     }
 
     void weekly() {
-        if (QWidget* area = inside(5)) {
+        if (QWidget* area = inside(I::Fra::Woechentlich)) {
             auto* grid = new QGridLayout(area);
-            comboRow(grid, 0, 0, 8);
-            put(grid, widget("lblLabel", 3), 0, 2, 2);
+            comboRow(grid, 0, 0, I::Cbo::WochenAlle);
+            put(grid, widget("lblLabel", I::Lbl::WochenAm), 0, 2, 2);
             auto* days = new QHBoxLayout;
             for (int index = 0; index < 7; ++index) {
                 addTo(days, widget("chkCheckBox", index));
@@ -109,49 +113,49 @@ class RecurrenceLayout {
     }
 
     void monthly() {
-        if (QWidget* area = inside(2)) {
+        if (QWidget* area = inside(I::Fra::Monatlich)) {
             auto* grid = new QGridLayout(area);
-            put(grid, widget("optMonatlich", 0), 0, 0);
-            comboRow(grid, 0, 1, 1);
-            comboRow(grid, 0, 3, 2);
-            put(grid, widget("lblLabel", 1), 0, 5);
-            put(grid, widget("optMonatlich", 1), 1, 0);
-            comboRow(grid, 1, 1, 3);
-            put(grid, widget("cboComboBox", 4), 1, 3, 2);
-            comboRow(grid, 2, 3, 5);
-            put(grid, widget("lblLabel", 2), 2, 5);
+            put(grid, widget("optMonatlich", I::Monatlich::Tag), 0, 0);
+            comboRow(grid, 0, 1, I::Cbo::MonatTag);
+            comboRow(grid, 0, 3, I::Cbo::MonateAlle);
+            put(grid, widget("lblLabel", I::Lbl::MonateTag), 0, 5);
+            put(grid, widget("optMonatlich", I::Monatlich::Am), 1, 0);
+            comboRow(grid, 1, 1, I::Cbo::AmErster);
+            put(grid, widget("cboComboBox", I::Cbo::AmWochentag), 1, 3, 2);
+            comboRow(grid, 2, 3, I::Cbo::AmMonateAlle);
+            put(grid, widget("lblLabel", I::Lbl::MonateAm), 2, 5);
             grid->setRowStretch(3, 1);
             grid->setColumnStretch(6, 1);
         }
     }
 
     void perDay() {
-        if (QWidget* area = inside(3)) {
+        if (QWidget* area = inside(I::Fra::ProTag)) {
             auto* grid = new QGridLayout(area);
-            put(grid, widget("optHaeufigkeit", 3), 0, 0);
-            put(grid, widget("ctlMaskEdBox", 0), 0, 1);
-            put(grid, widget("optHaeufigkeit", 4), 1, 0);
-            comboRow(grid, 1, 1, 6);
-            put(grid, widget("cboComboBox", 7), 1, 3);
-            put(grid, widget("lblLabel", 4), 2, 1);
-            put(grid, widget("ctlMaskEdBox", 1), 2, 2);
-            put(grid, widget("lblLabel", 5), 3, 1);
-            put(grid, widget("ctlMaskEdBox", 2), 3, 2);
+            put(grid, widget("optHaeufigkeit", I::Haeufigkeit::EinmaligUm), 0, 0);
+            put(grid, widget("ctlMaskEdBox", I::Zeit::EinmaligUm), 0, 1);
+            put(grid, widget("optHaeufigkeit", I::Haeufigkeit::Jede), 1, 0);
+            comboRow(grid, 1, 1, I::Cbo::JedeAnzahl);
+            put(grid, widget("cboComboBox", I::Cbo::JedeEinheit), 1, 3);
+            put(grid, widget("lblLabel", I::Lbl::StartetUm), 2, 1);
+            put(grid, widget("ctlMaskEdBox", I::Zeit::StartetUm), 2, 2);
+            put(grid, widget("lblLabel", I::Lbl::EndetUm), 3, 1);
+            put(grid, widget("ctlMaskEdBox", I::Zeit::EndetUm), 3, 2);
             grid->setColumnStretch(4, 1);
         }
     }
 
     void duration() {
-        if (QWidget* area = inside(4)) {
+        if (QWidget* area = inside(I::Fra::Dauer)) {
             auto* grid = new QGridLayout(area);
             QtControlView* start = window_.view(QStringLiteral("ctlDatePicker"), 0);
             if (start) {
                 put(grid, start->captionLabel(), 0, 0);
                 put(grid, start->widget(), 0, 1);
             }
-            put(grid, widget("optEnddatum", 0), 0, 2);
-            put(grid, widget("ctlDatePicker", 1), 0, 3);
-            put(grid, widget("optEnddatum", 1), 1, 2);
+            put(grid, widget("optEnddatum", I::Enddatum::Mit), 0, 2);
+            put(grid, widget("ctlDatePicker", I::Datum::Ende), 0, 3);
+            put(grid, widget("optEnddatum", I::Enddatum::Ohne), 1, 2);
             grid->setColumnStretch(4, 1);
         }
     }

@@ -5,8 +5,11 @@
 #include <QVBoxLayout>
 
 #include "gui/QtWindow.h"
+#include "ui/windows/frmZeitplan.h"
 
 namespace {
+
+using Z = frmZeitplan;
 
 constexpr int kMargin = 8;
 // The fields of the single run stand indented below the option that enables them.
@@ -23,20 +26,20 @@ class ScheduleLayout {
         column->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
         auto* head = new QGridLayout;
         head->setColumnStretch(1, 1);
-        if (QtControlView* name = view("txtTextBox", 0)) {
+        if (QtControlView* name = view("txtTextBox", Z::Txt::Name)) {
             put(head, name->captionLabel(), 0, 0);
             put(head, name->widget(), 0, 1);
         }
         put(head, widget("chkCheckBox"), 1, 1);
         column->addLayout(head);
-        if (QtControlView* frame = view("frmFrame", 0)) {
+        if (QtControlView* frame = view("frmFrame", Z::Fra::Zeitplantyp)) {
             column->addWidget(frame->widget());
             typeFrame(frame->area(-1));
         }
         column->addStretch(1);
         auto* buttons = new QHBoxLayout;
         buttons->addStretch(1);
-        for (int index : {0, 1}) {
+        for (int index : {Z::Cmd::Ok, Z::Cmd::Abbrechen}) {
             if (QWidget* w = widget("cmdCommandButton", index)) {
                 buttons->addWidget(w);
             }
@@ -65,15 +68,15 @@ class ScheduleLayout {
         auto* grid = new QGridLayout(area);
         grid->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
         grid->setColumnStretch(kFieldColumn + 1, 1);
-        put(grid, widget("optOption", 2), 0, kOptionColumn);
+        put(grid, widget("optOption", Z::Opt::Einmal), 0, kOptionColumn);
         if (QtControlView* date = view("ctlDatePicker")) {
             put(grid, date->captionLabel(), 0, kCaptionColumn);
             put(grid, date->widget(), 0, kFieldColumn);
         }
-        put(grid, widget("lblLabel", 1), 1, kCaptionColumn);
+        put(grid, widget("lblLabel", Z::Lbl::Uhrzeit), 1, kCaptionColumn);
         put(grid, widget("ctlMaskEdBox"), 1, kFieldColumn);
-        put(grid, widget("optOption", 3), 2, kOptionColumn, 4);
-        if (QtControlView* inner = view("frmFrame", 1)) {
+        put(grid, widget("optOption", Z::Opt::Wiederholt), 2, kOptionColumn, 4);
+        if (QtControlView* inner = view("frmFrame", Z::Fra::Intervall)) {
             put(grid, inner->widget(), 3, kOptionColumn, 4);
             recurrence(inner->area(-1));
         }
@@ -85,11 +88,11 @@ class ScheduleLayout {
         }
         auto* column = new QVBoxLayout(area);
         column->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
-        if (QWidget* text = widget("lblLabel", 0)) {
+        if (QWidget* text = widget("lblLabel", Z::Lbl::Intervall)) {
             column->addWidget(text);
         }
         auto* row = new QHBoxLayout;
-        if (QWidget* change = widget("cmdCommandButton", 2)) {
+        if (QWidget* change = widget("cmdCommandButton", Z::Cmd::Aendern)) {
             row->addWidget(change);
         }
         row->addStretch(1);

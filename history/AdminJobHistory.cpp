@@ -27,11 +27,7 @@ constexpr int kLogfiles = 5;
 constexpr int kArchivLogfiles = 3;
 }  // namespace Spalte
 
-namespace Knopf {
-constexpr int kSchliessen = 0;
-constexpr int kFilter = 1;
-constexpr int kLoeschen = 2;
-}  // namespace Knopf
+using Knopf = frmVerlauf::Cmd;
 
 QString kestoName() {
     return required(services().coreTexte).GetText(QVariant(kTextKesto));
@@ -65,7 +61,8 @@ void cAdminJob::mShowVerlauf(long lJobId, const QString& sJobName) {
         mFuelleGridVerlauf();
         msGetJobName(lJobId);
         required(services().coreTexte).SetFormIcon(frm->window(), kFensterSymbol);
-        frm->lblLabel(0).setCaption(QStringLiteral("Auftragsname: ") + sJobName);
+        frm->lblLabel(frmVerlauf::Lbl::Auftragsname)
+            .setCaption(QStringLiteral("Auftragsname: ") + sJobName);
         frm->window().Show(true);
     } catch (...) {
         ex.fail();
@@ -194,7 +191,7 @@ void cAdminJob::mFuelleGridVerlauf() {
             }
         }
         required(mofrmVerlauf)
-            .lblLabel(1)
+            .lblLabel(frmVerlauf::Lbl::Ausfuehrungen)
             .setCaption(QStringLiteral("Ausführungen: ") + QString::number(lAnzahl) +
                         (lAnzahl == 1 ? QStringLiteral(" Element") : QStringLiteral(" Elemente")) +
                         msGetVerlaufFilterString());
@@ -240,7 +237,7 @@ void cAdminJob::mofrmVerlauf_evFrmVerlaufCMDButtonClicked(int Index) {
     withErrorExit(
         QStringLiteral("mofrmVerlauf_evFrmVerlaufCMDButtonClicked"), kKlasse, 0, [&](ErrorExit&) {
             switch (Index) {
-                case Knopf::kSchliessen:
+                case Knopf::Schliessen:
                     if (mofrmVerlauf) {
                         mofrmVerlauf->window().Unload();
                     }
@@ -248,10 +245,10 @@ void cAdminJob::mofrmVerlauf_evFrmVerlaufCMDButtonClicked(int Index) {
                     moVerlaufFilter.reset();
                     moGridVerlauf = nullptr;
                     break;
-                case Knopf::kFilter:
+                case Knopf::Filter:
                     mShowFilter();
                     break;
-                case Knopf::kLoeschen:
+                case Knopf::Loeschen:
                     if (mlMsgBox(QStringLiteral("Gesamten Verlauf zu diesem Auftrag löschen?"),
                                  MsgStyle::YesNo, msGetTitel()) == MsgAnswer::Yes) {
                         mloescheVerlauf();

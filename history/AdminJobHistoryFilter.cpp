@@ -11,13 +11,7 @@ namespace {
 constexpr int kTextKesto = 1236;
 constexpr long kHoechsterZeitWert = 365;
 
-namespace Combo {
-constexpr int kZeitWert = 0;
-constexpr int kZeitEinheit = 1;
-constexpr int kTyp = 2;
-}  // namespace Combo
-
-constexpr int kOk = 0;
+using Combo = frmVerlaufFilter::Cbo;
 
 }  // namespace
 
@@ -50,7 +44,7 @@ void cAdminJob::mShowFilterEigenschaften() {
 
 void cAdminJob::mInitCBO_ZeitWert() {
     withErrorExit(QStringLiteral("mInitCBO_ZeitWert"), kKlasse, 0, [this](ErrorExit&) {
-        IComboBox& cbo = required(mofrmFilter).cboComboBox(Combo::kZeitWert);
+        IComboBox& cbo = required(mofrmFilter).cboComboBox(Combo::ZeitWert);
         cbo.Clear();
         for (long i = 1; i <= kHoechsterZeitWert; ++i) {
             cbo.AddItem(i, QString::number(i));
@@ -62,7 +56,7 @@ void cAdminJob::mInitCBO_ZeitWert() {
 
 void cAdminJob::mInitCBO_ZeitEinheit() {
     withErrorExit(QStringLiteral("mInitCBO_ZeitEinheit"), kKlasse, 0, [this](ErrorExit&) {
-        IComboBox& cbo = required(mofrmFilter).cboComboBox(Combo::kZeitEinheit);
+        IComboBox& cbo = required(mofrmFilter).cboComboBox(Combo::ZeitEinheit);
         cbo.Clear();
         cbo.AddItem(1, QStringLiteral("Tag(e)"));
         cbo.AddItem(2, QStringLiteral("Woche(n)"));
@@ -75,7 +69,7 @@ void cAdminJob::mInitCBO_ZeitEinheit() {
 
 void cAdminJob::mInitCBO_VerlaufsTyp() {
     withErrorExit(QStringLiteral("mInitCBO_VerlaufsTyp"), kKlasse, 0, [this](ErrorExit&) {
-        IComboBox& cbo = required(mofrmFilter).cboComboBox(Combo::kTyp);
+        IComboBox& cbo = required(mofrmFilter).cboComboBox(Combo::Typ);
         cbo.Clear();
         cbo.AddItem(Erfolg::kAlle, QStringLiteral("Alle"));
         const QString sArt = msAuftragsartAktuell();
@@ -114,9 +108,9 @@ void cAdminJob::mFilterSpeichern() {
     withErrorExit(QStringLiteral("mFilterSpeichern"), kKlasse, 0, [this](ErrorExit&) {
         frmVerlaufFilter& frm = required(mofrmFilter);
         cVerlaufFilter& filter = required(moVerlaufFilter);
-        filter.lZeitWert = frm.cboComboBox(Combo::kZeitWert).Key();
-        filter.lZeitEinheit = frm.cboComboBox(Combo::kZeitEinheit).Key();
-        filter.byErfolgreich = static_cast<std::uint8_t>(frm.cboComboBox(Combo::kTyp).Key());
+        filter.lZeitWert = frm.cboComboBox(Combo::ZeitWert).Key();
+        filter.lZeitEinheit = frm.cboComboBox(Combo::ZeitEinheit).Key();
+        filter.byErfolgreich = static_cast<std::uint8_t>(frm.cboComboBox(Combo::Typ).Key());
         return 0;
     });
 }
@@ -124,7 +118,7 @@ void cAdminJob::mFilterSpeichern() {
 void cAdminJob::mofrmFilter_evFrmFilterfCMDButtonClicked(int Index) {
     withErrorExit(QStringLiteral("mofrmFilter_evFrmFilterfCMDButtonClicked"), kKlasse, 0,
                   [&](ErrorExit&) {
-                      if (Index == kOk) {
+                      if (Index == frmVerlaufFilter::Cmd::Ok) {
                           mFilterSpeichern();
                           mFuelleGridVerlauf();
                       }

@@ -21,11 +21,7 @@ constexpr int kGeaendert = 2;
 constexpr int kErstellt = 3;
 }  // namespace Spalte
 
-namespace Knopf {
-constexpr int kSchliessen = 0;
-constexpr int kOeffnen = 1;
-constexpr int kExplorer = 2;
-}  // namespace Knopf
+using Knopf = frmBuchLog::Cmd;
 
 void ordnerAnlegen(FileSystemObject& oFSO, const QString& sPfad) {
     if (!oFSO.FolderExists(sPfad) && !oFSO.CreateFolder(sPfad)) {
@@ -140,7 +136,7 @@ void cAdminJob::mShowBuLogFilesData(long lDatenart) {
         frmBuchLog& frm = required(mofrmBuLog);
         IGrid& grid = required(moGridBuLog);
         const QString sEndung = dateiEndung(lDatenart);
-        frm.cmdCommandButton(Knopf::kOeffnen).setEnabled(false);
+        frm.cmdCommandButton(Knopf::Oeffnen).setEnabled(false);
         const IGrid& verlauf = required(moGridVerlauf);
         const QString sPfad = verlauf.TextMatrix(verlauf.Row(), verlauf.Col());
         frm.txtTextBox().setText(sPfad);
@@ -174,7 +170,7 @@ void cAdminJob::mShowBuLogFilesData(long lDatenart) {
                 const QString sDatei = joinPath(sPfad, sName);
                 grid.AddItem(QString());
                 const int lZeile = grid.Rows() - 1;
-                frm.cmdCommandButton(Knopf::kOeffnen).setEnabled(true);
+                frm.cmdCommandButton(Knopf::Oeffnen).setEnabled(true);
                 grid.setTextMatrix(lZeile, Spalte::kName, sName);
                 // The size as the file system gives it, in bytes, under the unit "KB".
                 grid.setTextMatrix(lZeile, Spalte::kGroesse,
@@ -201,14 +197,14 @@ void cAdminJob::mofrmBuLog_evFrmBuLogCommandButtonClicked(int Index) {
     withErrorExit(
         QStringLiteral("mofrmBuLog_evFrmBuLogCommandButtonClicked"), kKlasse, 0, [&](ErrorExit&) {
             switch (Index) {
-                case Knopf::kSchliessen:
+                case Knopf::Schliessen:
                     if (mofrmBuLog) {
                         mofrmBuLog->window().Unload();
                     }
                     mofrmBuLog.reset();
                     moGridBuLog = nullptr;
                     break;
-                case Knopf::kOeffnen: {
+                case Knopf::Oeffnen: {
                     if (required(moGridBuLog).Row() <= 0) {
                         break;
                     }
@@ -229,7 +225,7 @@ void cAdminJob::mofrmBuLog_evFrmBuLogCommandButtonClicked(int Index) {
                     }
                     break;
                 }
-                case Knopf::kExplorer:
+                case Knopf::Explorer:
                     required(services().shell).Open(required(mofrmBuLog).txtTextBox().Text());
                     break;
                 default:

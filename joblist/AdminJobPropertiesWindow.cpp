@@ -16,9 +16,6 @@
 
 namespace {
 
-constexpr int kCmdUebernehmen = 7;
-constexpr int kTabAllgemein = 0;
-constexpr int kTabZeitplaene = 1;
 const QString kBand = QStringLiteral("barMain");
 
 // The pictures of the bar's tools, by tool name.
@@ -47,7 +44,8 @@ void cAdminJob::mShowFRMPakete(long lJobId, const QString& sName) {
         if (mofrmEigenschaften) {
             long lAntwort = MsgAnswer::No;
             if (mlJobId != -1) {
-                if (mofrmEigenschaften->cmdCommandButton(kCmdUebernehmen).Enabled()) {
+                if (mofrmEigenschaften->cmdCommandButton(frmEigenschaften::Cmd::Uebernehmen)
+                        .Enabled()) {
                     lAntwort = mlMsgBox(QStringLiteral("Sollen die geänderten Daten für den neuen "
                                                        "Auftrag gespeichert werden?"),
                                         MsgStyle::YesNoCancelQuestion);
@@ -86,9 +84,9 @@ void cAdminJob::mShowFRMPakete(long lJobId, const QString& sName) {
         mbInitEigenschaften = true;
         mbBackupGefragt = false;
 
-        form.cmdCommandButton(kCmdUebernehmen).setEnabled(false);
+        form.cmdCommandButton(frmEigenschaften::Cmd::Uebernehmen).setEnabled(false);
         form.tbrMain().setToolEnabled(kBand, PropertiesTool::Save, false);
-        form.tabControl().setTabEnabled(kTabZeitplaene, lJobId >= 1);
+        form.tabControl().setTabEnabled(frmEigenschaften::Tab::Zeitplaene, lJobId >= 1);
 
         // The dealer data's remembered directory and key belong to the job on show.
         msNivoraTempPfad.clear();
@@ -98,7 +96,7 @@ void cAdminJob::mShowFRMPakete(long lJobId, const QString& sName) {
         mInitGridZeitplan();
         mFuelleGridZeitplan();
 
-        form.tabControl().setTab(kTabAllgemein);
+        form.tabControl().setTab(frmEigenschaften::Tab::Allgemein);
         mbInitEigenschaften = false;
 
         if (bErstesMal) {
@@ -137,7 +135,7 @@ void cAdminJob::mAktuFrmPakete(long lJobId) {
             mSetNavTools(1, 1, &bar);
         }
         if (form.window().Visible()) {
-            form.txtTextBox(0).SetFocus();
+            form.txtTextBox(frmEigenschaften::Txt::Name).SetFocus();
         }
     } catch (...) {
         ex.fail();

@@ -6,9 +6,9 @@
 #include "joblist/ListTools.h"
 #include "jobs/PropertiesTools.h"
 #include "ui/Browser.h"
+#include "ui/windows/frmEigenschaften.h"
 
 namespace {
-constexpr int kCmdUebernehmen = 7;
 
 namespace LogArt {
 constexpr long Dienst = 1;
@@ -72,7 +72,7 @@ void cAdminJob::mEigenschaftenTool(const QString& sTool) {
     ErrorExit ex(QStringLiteral("mEigenschaftenTool"), kKlasse);
     try {
         if (sTool == PropertiesTool::Save) {
-            mPaketeCMDClick(kCmdUebernehmen);
+            mPaketeCMDClick(frmEigenschaften::Cmd::Uebernehmen);
         } else if (sTool == PropertiesTool::New) {
             mShowFRMPakete(-1, QString());
         } else if (sTool == PropertiesTool::First || sTool == PropertiesTool::Previous ||

@@ -13,7 +13,6 @@ constexpr int kSpalteBezeichnung = 0;
 constexpr int kSpalteAuswahl = 1;
 constexpr int kBreiteBezeichnung = 3600;
 constexpr int kBreiteAuswahl = 750;
-constexpr int kComboNivora = 3;
 // Debtors only: no bookings, so no bookings directory.
 constexpr long kNivoraNurDebitoren = 3;
 const QString kAlleBelegarten = QStringLiteral("0");
@@ -122,7 +121,7 @@ void cAdminJob::mInitCBO_NivoraDaten(long& lKey) {
         if (!mofrmEigenschaften) {
             return;
         }
-        IComboBox& cbo = mofrmEigenschaften->cboComboBox(kComboNivora);
+        IComboBox& cbo = mofrmEigenschaften->cboComboBox(frmEigenschaften::Cbo::Nivora);
         cbo.setVisible(true);
         cbo.Clear();
         cbo.AddItem(1, QStringLiteral("Buchungen und Debitoren"));
@@ -145,7 +144,7 @@ void cAdminJob::mNivoraDaten(long lKey) {
             return;
         }
         frmEigenschaften& frm = *mofrmEigenschaften;
-        ITextBox& txtVerzeichnis = frm.txtTextBox(4);
+        ITextBox& txtVerzeichnis = frm.txtTextBox(frmEigenschaften::Txt::Logfiles);
         if (lKey != kNivoraNurDebitoren) {
             txtVerzeichnis.setEnabled(true);
             if (txtVerzeichnis.Text().isEmpty() && !msNivoraTempPfad.isEmpty()) {
@@ -153,12 +152,12 @@ void cAdminJob::mNivoraDaten(long lKey) {
             } else {
                 msNivoraTempPfad = txtVerzeichnis.Text();
             }
-            frm.cmdCommandButton(8).setEnabled(true);
+            frm.cmdCommandButton(frmEigenschaften::Cmd::Logverzeichnis).setEnabled(true);
         } else {
             txtVerzeichnis.setEnabled(false);
             msNivoraTempPfad = txtVerzeichnis.Text();
             txtVerzeichnis.setText(QString());
-            frm.cmdCommandButton(8).setEnabled(false);
+            frm.cmdCommandButton(frmEigenschaften::Cmd::Logverzeichnis).setEnabled(false);
         }
         if (lKey != mlNivoraDaten) {
             if (mlNivoraDaten > 0) {

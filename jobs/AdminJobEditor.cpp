@@ -14,11 +14,6 @@
 
 namespace {
 
-constexpr int kCboAuftragsart = 0;
-constexpr int kCboMandKanz = 2;
-constexpr int kCboNivora = 3;
-constexpr int kCmdUebernehmen = 7;
-constexpr int kTabZeitplaene = 1;
 constexpr long kModusMandant = 0;
 constexpr long kModusKanzlei = 1;
 constexpr long kAktenTypNurKanzleien = 2;
@@ -64,18 +59,18 @@ void cAdminJob::mShowJobEigenschaften() {
         }
 
         mSetFormCaption(rec.sName);
-        form.txtTextBox(0).setText(rec.sName);
-        form.lblLabel(2).setCaption(rec.sErstellt);
-        form.txtTextBox(2).setText(rec.sBeschreibung);
+        form.txtTextBox(frmEigenschaften::Txt::Name).setText(rec.sName);
+        form.lblLabel(frmEigenschaften::Lbl::ErstelltDatum).setCaption(rec.sErstellt);
+        form.txtTextBox(frmEigenschaften::Txt::Beschreibung).setText(rec.sBeschreibung);
         if (!archivTyp(lDatenArt)) {
-            form.txtTextBox(3).setText(rec.sVerzeichnis1);
-            form.txtTextBox(1).setText(rec.sVerzeichnis2);
+            form.txtTextBox(frmEigenschaften::Txt::Importdaten).setText(rec.sVerzeichnis1);
+            form.txtTextBox(frmEigenschaften::Txt::Backup).setText(rec.sVerzeichnis2);
         } else {
             form.ctlMitarbeiter().setId(rec.lArchivMitarbeiter);
             form.ctlKennwort().setText(rec.sArchivKennwort);
         }
-        form.txtTextBox(4).setText(rec.sVerzeichnis3);
-        form.chkCheckBox(0).setValue(rec.bytAktiviert);
+        form.txtTextBox(frmEigenschaften::Txt::Logfiles).setText(rec.sVerzeichnis3);
+        form.chkCheckBox(frmEigenschaften::Chk::Aktiviert).setValue(rec.bytAktiviert);
 
         cProperties& properties = required(moProperties);
         std::uint8_t bytMandKanz = rec.bytMandKanz;
@@ -99,19 +94,19 @@ void cAdminJob::mShowJobEigenschaften() {
         msTextDateien.clear();
         if (lDatenArt == DatenArt::Textdatei && !rec.sZusatzinfo.isEmpty()) {
             form.ctlMitarbeiterBuchProp().setId(zusatz.lMitarbeiterId);
-            form.ctlOptFileName(0).setText(zusatz.sSkript);
+            form.ctlOptFileName(frmEigenschaften::OptDatei::Skript).setText(zusatz.sSkript);
             msTextDateien = zusatz.sTextdateien;
         }
         mOptDateienSetzen(QString());
 
         if (lDatenArt == DatenArt::Buchungen) {
-            form.chkCheckBox(1).setValue(rec.bSingleLog ? 1 : 0);
+            form.chkCheckBox(frmEigenschaften::Chk::EinfachesLog).setValue(rec.bSingleLog ? 1 : 0);
             form.chkFremdFormat().setValue(rec.bFremdFormat ? 1 : 0);
             form.ctlFremdFilter().setText(rec.sFremdDateifilter);
             form.ctlFremdMapping().setText(rec.sFremdMapping);
             form.ctlFremdFilter().setEnabled(rec.bFremdFormat);
             form.ctlFremdMapping().setEnabled(rec.bFremdFormat);
-            form.cmdCommandButton(10).setEnabled(rec.bFremdFormat);
+            form.cmdCommandButton(frmEigenschaften::Cmd::Mappingdatei).setEnabled(rec.bFremdFormat);
         }
 
         mInitCBODaten(rec.bytDatenArt);
@@ -127,8 +122,9 @@ void cAdminJob::mShowJobEigenschaften() {
 void cAdminJob::mInitCBODaten(std::uint8_t bytDatenArt) {
     ErrorExit ex(QStringLiteral("mInitCBODaten"), kKlasse);
     try {
-        mInitCBOAuftragsart(required(mofrmEigenschaften).cboComboBox(kCboAuftragsart), bytDatenArt,
-                            false);
+        mInitCBOAuftragsart(
+            required(mofrmEigenschaften).cboComboBox(frmEigenschaften::Cbo::Auftragsart),
+            bytDatenArt, false);
         mDatenart(bytDatenArt);
     } catch (...) {
         ex.fail();
@@ -139,7 +135,7 @@ void cAdminJob::mInitCBO_MandKanz(std::uint8_t bytKey) {
     ErrorExit ex(QStringLiteral("mInitCBO_MandKanz"), kKlasse);
     try {
         frmEigenschaften& form = required(mofrmEigenschaften);
-        IComboBox& cbo = form.cboComboBox(kCboMandKanz);
+        IComboBox& cbo = form.cboComboBox(frmEigenschaften::Cbo::MandKanz);
         const long lAktenTyp = required(moProperties).plAktenTyp;
         cbo.setVisible(true);
         cbo.Clear();
@@ -158,7 +154,7 @@ void cAdminJob::mInitCBO_MandKanz(std::uint8_t bytKey) {
         const bool bFirmaKanzlei = mbFirmaKanzlei();
         if (!bFirmaKanzlei) {
             cbo.setEnabled(true);
-            const long lDatenArt = form.cboComboBox(kCboAuftragsart).Key();
+            const long lDatenArt = form.cboComboBox(frmEigenschaften::Cbo::Auftragsart).Key();
             if (lDatenArt == DatenArt::Textdatei || lDatenArt == DatenArt::Wirtschaftsgueter ||
                 lDatenArt == DatenArt::Verschlagwortung || lDatenArt == DatenArt::Buchungen ||
                 lDatenArt == DatenArt::ScanDokumente) {
@@ -192,7 +188,7 @@ void cAdminJob::mofrmEigenschaften_evFrmEigenschaftenComboBoxClicked(int Index) 
         }
         const long lKey = mofrmEigenschaften->cboComboBox(Index).Key();
         switch (Index) {
-            case kCboAuftragsart: {
+            case frmEigenschaften::Cbo::Auftragsart: {
                 const std::uint8_t bytKey = alsByte(lKey);
                 mDatenart(bytKey);
                 if (bytKey != mbytDatenArt) {
@@ -201,7 +197,7 @@ void cAdminJob::mofrmEigenschaften_evFrmEigenschaftenComboBoxClicked(int Index) 
                 }
                 break;
             }
-            case kCboMandKanz: {
+            case frmEigenschaften::Cbo::MandKanz: {
                 const std::uint8_t bytKey = alsByte(lKey);
                 mMandKanz(bytKey);
                 if (bytKey != mbytMandKanz) {
@@ -215,7 +211,7 @@ void cAdminJob::mofrmEigenschaften_evFrmEigenschaftenComboBoxClicked(int Index) 
                 }
                 break;
             }
-            case kCboNivora:
+            case frmEigenschaften::Cbo::Nivora:
                 mNivoraDaten(lKey);
                 break;
             default:
@@ -232,7 +228,7 @@ void cAdminJob::mEigenschaftenGeaendert() {
         if (mbInitEigenschaften || !mofrmEigenschaften) {
             return;
         }
-        mofrmEigenschaften->cmdCommandButton(kCmdUebernehmen).setEnabled(true);
+        mofrmEigenschaften->cmdCommandButton(frmEigenschaften::Cmd::Uebernehmen).setEnabled(true);
         mofrmEigenschaften->tbrMain().setToolEnabled(QStringLiteral("barMain"),
                                                      PropertiesTool::Save, true);
     } catch (...) {
@@ -251,41 +247,43 @@ bool cAdminJob::mEigenschaftenSpeichern(bool bUebernehmen) {
         rec.lJobId = mlJobId;
         // A type that stands in no list (an old dealer data job) leaves the combo without a
         // selection; the job keeps the type it was shown with.
-        const long lTypKey = form.cboComboBox(kCboAuftragsart).Key();
+        const long lTypKey = form.cboComboBox(frmEigenschaften::Cbo::Auftragsart).Key();
         rec.bytDatenArt = lTypKey < 0 ? mbytDatenArt : alsByte(lTypKey);
-        rec.sName = form.txtTextBox(0).Text();
-        rec.sBeschreibung = form.txtTextBox(2).Text();
-        rec.bytAktiviert = alsByte(form.chkCheckBox(0).Value());
+        rec.sName = form.txtTextBox(frmEigenschaften::Txt::Name).Text();
+        rec.sBeschreibung = form.txtTextBox(frmEigenschaften::Txt::Beschreibung).Text();
+        rec.bytAktiviert = alsByte(form.chkCheckBox(frmEigenschaften::Chk::Aktiviert).Value());
         const long lDatenArt = rec.bytDatenArt;
         if (!archivTyp(lDatenArt)) {
-            rec.sVerzeichnis1 = form.txtTextBox(3).Text();
-            rec.sVerzeichnis2 =
-                lDatenArt == DatenArt::KestoDirekt ? msGetBelegarten() : form.txtTextBox(1).Text();
+            rec.sVerzeichnis1 = form.txtTextBox(frmEigenschaften::Txt::Importdaten).Text();
+            rec.sVerzeichnis2 = lDatenArt == DatenArt::KestoDirekt
+                                    ? msGetBelegarten()
+                                    : form.txtTextBox(frmEigenschaften::Txt::Backup).Text();
         } else {
             rec.lArchivMitarbeiter = form.ctlMitarbeiter().Id();
             rec.sArchivKennwort = form.ctlKennwort().Text();
         }
         if (lDatenArt == DatenArt::Textdatei &&
-            mlCheckImportSkript(form.ctlOptFileName(0).Text()) < 2) {
-            msTextDateien = form.ctlOptFileName(1).Text();
+            mlCheckImportSkript(form.ctlOptFileName(frmEigenschaften::OptDatei::Skript).Text()) <
+                2) {
+            msTextDateien = form.ctlOptFileName(frmEigenschaften::OptDatei::Textdatei).Text();
         }
 
         Zusatzinfo zusatz;
         if (lDatenArt == DatenArt::Nivora) {
-            zusatz.lHaendlerSchluessel = form.cboComboBox(kCboNivora).Key();
+            zusatz.lHaendlerSchluessel = form.cboComboBox(frmEigenschaften::Cbo::Nivora).Key();
         } else if (mitMitarbeiterBuchProp(lDatenArt) || lDatenArt == DatenArt::Textdatei) {
             zusatz.lMitarbeiterId = form.ctlMitarbeiterBuchProp().Id();
         }
         if (lDatenArt == DatenArt::Textdatei) {
-            zusatz.sSkript = form.ctlOptFileName(0).Text();
+            zusatz.sSkript = form.ctlOptFileName(frmEigenschaften::OptDatei::Skript).Text();
             zusatz.sTextdateien = msTextDateien;
         }
         rec.sZusatzinfo = zusatzinfoSchreiben(lDatenArt, zusatz);
 
-        rec.bytMandKanz = alsByte(form.cboComboBox(kCboMandKanz).Key());
-        rec.sVerzeichnis3 = form.txtTextBox(4).Text();
+        rec.bytMandKanz = alsByte(form.cboComboBox(frmEigenschaften::Cbo::MandKanz).Key());
+        rec.sVerzeichnis3 = form.txtTextBox(frmEigenschaften::Txt::Logfiles).Text();
         if (lDatenArt == DatenArt::Buchungen) {
-            rec.bSingleLog = form.chkCheckBox(1).Value() == 1;
+            rec.bSingleLog = form.chkCheckBox(frmEigenschaften::Chk::EinfachesLog).Value() == 1;
             rec.bFremdFormat = form.chkFremdFormat().Value() == 1;
             if (rec.bFremdFormat) {
                 rec.sFremdDateifilter = form.ctlFremdFilter().Text();
@@ -304,12 +302,12 @@ bool cAdminJob::mEigenschaftenSpeichern(bool bUebernehmen) {
         }
         mlJobId = rec.lJobId;
         form.lblLetzteAenderung().setCaption(rec.sLetzteAenderung);
-        form.lblLabel(2).setCaption(rec.sErstellt);
+        form.lblLabel(frmEigenschaften::Lbl::ErstelltDatum).setCaption(rec.sErstellt);
         msJobName = rec.sName;
 
         if (bUebernehmen) {
-            form.tabControl().setTabEnabled(kTabZeitplaene, true);
-            form.cmdCommandButton(kCmdUebernehmen).setEnabled(false);
+            form.tabControl().setTabEnabled(frmEigenschaften::Tab::Zeitplaene, true);
+            form.cmdCommandButton(frmEigenschaften::Cmd::Uebernehmen).setEnabled(false);
             form.tbrMain().setToolEnabled(QStringLiteral("barMain"), PropertiesTool::Save, false);
             mBrowserRefresh(false);
             // The step row becomes the list's last one, where a job saved for the first time

@@ -8,20 +8,8 @@
 
 namespace {
 
-namespace Cmd {
-constexpr int Ok = 0;
-constexpr int Abbrechen = 1;
-constexpr int Importverzeichnis = 2;
-constexpr int ZeitplanNeu = 3;
-constexpr int ZeitplanBearbeiten = 4;
-constexpr int ZeitplanLoeschen = 5;
-constexpr int Backupverzeichnis = 6;
-constexpr int Uebernehmen = 7;
-constexpr int Logverzeichnis = 8;
-constexpr int ZeitplanKopieren = 9;
-constexpr int Mappingdatei = 10;
-constexpr int Anzahl = 11;
-}  // namespace Cmd
+using Cmd = frmEigenschaften::Cmd;
+using Txt = frmEigenschaften::Txt;
 
 namespace ZeitplanSpalte {
 constexpr int Name = 0;
@@ -147,7 +135,7 @@ void cAdminJob::mPaketeCMDClick(int Index) {
                 mEigenschaftenSchliessen(true);
                 break;
             case Cmd::Importverzeichnis:
-                mShowFileSystemPfad(3);
+                mShowFileSystemPfad(Txt::Importdaten);
                 break;
             case Cmd::ZeitplanNeu:
                 mShowFRMZeitplanEigenschaften(0, QString());
@@ -159,7 +147,7 @@ void cAdminJob::mPaketeCMDClick(int Index) {
                 mLoescheZeitplan();
                 break;
             case Cmd::Backupverzeichnis:
-                mShowFileSystemPfad(1);
+                mShowFileSystemPfad(Txt::Backup);
                 break;
             case Cmd::Uebernehmen:
                 if (mbCheckEigenschaften()) {
@@ -168,7 +156,7 @@ void cAdminJob::mPaketeCMDClick(int Index) {
                 }
                 break;
             case Cmd::Logverzeichnis:
-                mShowFileSystemPfad(4);
+                mShowFileSystemPfad(Txt::Logfiles);
                 break;
             case Cmd::ZeitplanKopieren: {
                 // Without a schedule row the dialog opens all the same, on id 0 and no name.

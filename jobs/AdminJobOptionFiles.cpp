@@ -59,12 +59,14 @@ QString cAdminJob::mDateinameMitStern(const QString& sDatei) {
 void cAdminJob::mOptDateiAuswaehlen(int Index) {
     ErrorExit ex(QStringLiteral("mOptDateiAuswaehlen"), kKlasse);
     try {
+        using OptDatei = frmEigenschaften::OptDatei;
         frmEigenschaften& frm = required(mofrmEigenschaften);
         FileDialogSettings oSettings;
         std::optional<QList<OptionFileEntry>> colEintraege;
 
-        const QString sSkript = frm.ctlOptFileName(0).Text();
-        if (Index == 1 && !sSkript.isEmpty() && mlCheckImportSkript(sSkript, colEintraege) > 1) {
+        const QString sSkript = frm.ctlOptFileName(frmEigenschaften::OptDatei::Skript).Text();
+        if (Index == OptDatei::Textdatei && !sSkript.isEmpty() &&
+            mlCheckImportSkript(sSkript, colEintraege) > 1) {
             mOptTxtDateiMultiAuswahl(*colEintraege);
             mOptDateienSetzen(QString());
             return;
@@ -85,22 +87,24 @@ void cAdminJob::mOptDateiAuswaehlen(int Index) {
             auto oCoreTools =
                 ex.create(services().newCoreTools, QStringLiteral("hcore.dll"),
                           QStringLiteral("Set oCoreTools = New hcore.CoreToolsClass"));
-            sPfad = oCoreTools->GetPfad(Index == 0 ? kPfadImportSkripte : kPfadDaten);
+            sPfad =
+                oCoreTools->GetPfad(Index == OptDatei::Skript ? kPfadImportSkripte : kPfadDaten);
         } else {
             gStrSplitFileName(sDatei, sPfad, sName, sExt);
         }
 
-        if (Index == 1 && mbytMandKanz > kMandKanzEinzeln) {
+        if (Index == OptDatei::Textdatei && mbytMandKanz > kMandKanzEinzeln) {
             // All clients: only the directory is chosen; the name stays a pattern.
             const auto sVerzeichnis =
                 frm.ctlDirDialog().ShowDir(QStringLiteral("Datenpfad auswählen"), sPfad);
             if (sVerzeichnis) {
-                frm.ctlOptFileName(1).setText(joinPath(*sVerzeichnis, sName + sExt));
+                frm.ctlOptFileName(frmEigenschaften::OptDatei::Textdatei)
+                    .setText(joinPath(*sVerzeichnis, sName + sExt));
             }
             return;
         }
 
-        if (Index == 0) {
+        if (Index == OptDatei::Skript) {
             oSettings.filter =
                 filter({QStringLiteral("Import Optionen (*.opt)"), QStringLiteral("*.opt")});
         } else if (sExt.isEmpty()) {
@@ -116,13 +120,13 @@ void cAdminJob::mOptDateiAuswaehlen(int Index) {
         if (!sDatei.isEmpty()) {
             oSettings.fileName = sDatei;
         }
-        oSettings.title = Index == 0 ? QStringLiteral("Skript-Datei auswählen")
-                                     : QStringLiteral("TextDatei auswählen");
+        oSettings.title = Index == OptDatei::Skript ? QStringLiteral("Skript-Datei auswählen")
+                                                    : QStringLiteral("TextDatei auswählen");
         const QString sGewaehlt = frm.ctlCommonDialog().ShowOpen(oSettings).value_or(QString());
 
         if (!sGewaehlt.isEmpty()) {
             frm.ctlOptFileName(Index).setText(sGewaehlt);
-            if (Index == 1) {
+            if (Index == OptDatei::Textdatei) {
                 msTextDateien = sGewaehlt;
             } else {
                 mOptDateienSetzen(sSkriptVorher);
@@ -138,23 +142,23 @@ void cAdminJob::mOptDateienSetzen(const QString& sSkriptVorher) {
     ErrorExit ex(QStringLiteral("mOptDateienSetzen"), kKlasse);
     try {
         frmEigenschaften& frm = required(mofrmEigenschaften);
-        const QString sSkript = frm.ctlOptFileName(0).Text();
+        const QString sSkript = frm.ctlOptFileName(frmEigenschaften::OptDatei::Skript).Text();
         long lAnzahl = 0;
         if (!sSkript.isEmpty()) {
             lAnzahl = mlCheckImportSkript(sSkript);
         }
-        frm.ctlOptFileName(1).setEnabled(lAnzahl < 2);
+        frm.ctlOptFileName(frmEigenschaften::OptDatei::Textdatei).setEnabled(lAnzahl < 2);
         if (lAnzahl < 2) {
             // Pairs of another script do not fit this one.
             if (!sSkriptVorher.isEmpty() && sSkriptVorher != sSkript &&
                 msTextDateien.contains(QLatin1Char('?'))) {
                 msTextDateien.clear();
             }
-            frm.ctlOptFileName(1).setText(msTextDateien);
+            frm.ctlOptFileName(frmEigenschaften::OptDatei::Textdatei).setText(msTextDateien);
         } else {
-            frm.ctlOptFileName(1).setText(QStringLiteral("Das Importskript benötigt ") +
-                                          QString::number(lAnzahl) +
-                                          QStringLiteral(" Textdateien."));
+            frm.ctlOptFileName(frmEigenschaften::OptDatei::Textdatei)
+                .setText(QStringLiteral("Das Importskript benötigt ") + QString::number(lAnzahl) +
+                         QStringLiteral(" Textdateien."));
         }
     } catch (...) {
         ex.fail();

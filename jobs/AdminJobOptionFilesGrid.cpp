@@ -51,12 +51,13 @@ void cAdminJob::mOptTxtDateiMultiAuswahl(const QList<OptionFileEntry>& colEintra
             mLeben.guard([this] { moFrmTextDateien_evTextDateienUebernehmen(); });
 
         const bool bMuster = mbytMandKanz > kMandKanzEinzeln;
-        frm.ctlOptTextDatei(1).setVisible(false);
-        frm.ctlOptTextDatei(1).setTabStop(false);
+        frm.ctlOptTextDatei(frmOptTextDateien::Auswahl::NamensAnfang).setVisible(false);
+        frm.ctlOptTextDatei(frmOptTextDateien::Auswahl::NamensAnfang).setTabStop(false);
         if (bMuster) {
-            frm.ctlOptTextDatei(0).setToolTip(QStringLiteral("Datenpfad auswählen"));
-            frm.ctlOptTextDatei(1).setVisible(true);
-            frm.ctlOptTextDatei(1).setTabStop(true);
+            frm.ctlOptTextDatei(frmOptTextDateien::Auswahl::Pfad)
+                .setToolTip(QStringLiteral("Datenpfad auswählen"));
+            frm.ctlOptTextDatei(frmOptTextDateien::Auswahl::NamensAnfang).setVisible(true);
+            frm.ctlOptTextDatei(frmOptTextDateien::Auswahl::NamensAnfang).setTabStop(true);
         }
         setFormIcon(frm);
 
@@ -120,7 +121,7 @@ void cAdminJob::mOptTxtDateiMultiAuswahl(const QList<OptionFileEntry>& colEintra
 }
 
 void cAdminJob::moFrmTextDateien_evTextDateiAuswaehlen(int lZeile, int Index) {
-    if (Index == 0) {
+    if (Index == frmOptTextDateien::Auswahl::Pfad) {
         mOptTextDateiAuswaehlen(TextDateiPfad{}, lZeile);
     } else {
         mOptTextDateiAuswaehlen(TextDateiNamensAnfang{}, lZeile);
@@ -239,7 +240,9 @@ void cAdminJob::mOptTextDateienUebernehmen() {
                          grd.TextMatrix(lZeile, kTextdatei);
             sHinweis += grd.TextMatrix(lZeile, kTextdatei);
         }
-        required(mofrmEigenschaften).ctlOptFileName(1).setToolTip(sHinweis);
+        required(mofrmEigenschaften)
+            .ctlOptFileName(frmEigenschaften::OptDatei::Textdatei)
+            .setToolTip(sHinweis);
         if (sErgebnis != msTextDateien) {
             msTextDateien = sErgebnis;
             mEigenschaftenGeaendert();

@@ -49,9 +49,9 @@ void cAdminJob::mSetFraBuchungen(bool bShow) {
         frmEigenschaften& f = *mofrmEigenschaften;
         f.fraBuchungen().setVisible(bShow);
         freigeben(f.chkFremdFormat(), bShow);
-        freigeben(f.chkCheckBox(1), bShow);
+        freigeben(f.chkCheckBox(frmEigenschaften::Chk::EinfachesLog), bShow);
         freigeben(f.ctlFremdFilter(), bShow);
-        freigeben(f.cmdCommandButton(10), bShow);
+        freigeben(f.cmdCommandButton(frmEigenschaften::Cmd::Mappingdatei), bShow);
         freigeben(f.ctlFremdMapping(), bShow);
         return 0;
     });
@@ -64,12 +64,12 @@ void cAdminJob::mSetFraImport(bool bEnable, bool bFrame) {
         }
         frmEigenschaften& f = *mofrmEigenschaften;
         f.fraImport().setVisible(bFrame || bEnable);
-        freigeben(f.txtTextBox(1), bEnable);
-        freigeben(f.txtTextBox(3), bEnable);
-        freigeben(f.txtTextBox(4), bEnable);
-        freigeben(f.cmdCommandButton(2), bEnable);
-        freigeben(f.cmdCommandButton(6), bEnable);
-        freigeben(f.cmdCommandButton(8), bEnable);
+        freigeben(f.txtTextBox(frmEigenschaften::Txt::Backup), bEnable);
+        freigeben(f.txtTextBox(frmEigenschaften::Txt::Importdaten), bEnable);
+        freigeben(f.txtTextBox(frmEigenschaften::Txt::Logfiles), bEnable);
+        freigeben(f.cmdCommandButton(frmEigenschaften::Cmd::Importverzeichnis), bEnable);
+        freigeben(f.cmdCommandButton(frmEigenschaften::Cmd::Backupverzeichnis), bEnable);
+        freigeben(f.cmdCommandButton(frmEigenschaften::Cmd::Logverzeichnis), bEnable);
         freigeben(f.ctlMitarbeiterBuchProp(), bEnable);
         return 0;
     });
@@ -95,7 +95,7 @@ void cAdminJob::mSetFraNivora(bool bShow) {
         }
         frmEigenschaften& f = *mofrmEigenschaften;
         f.fraNivora().setVisible(bShow);
-        freigeben(f.cboComboBox(3), bShow);
+        freigeben(f.cboComboBox(frmEigenschaften::Cbo::Nivora), bShow);
         return 0;
     });
 }
@@ -140,7 +140,7 @@ void cAdminJob::mChangeMitFremdformat() {
         const bool bFremd = f.chkFremdFormat().Value() == 1;
         f.ctlFremdFilter().setEnabled(bFremd);
         f.ctlFremdMapping().setEnabled(bFremd);
-        f.cmdCommandButton(10).setEnabled(bFremd);
+        f.cmdCommandButton(frmEigenschaften::Cmd::Mappingdatei).setEnabled(bFremd);
         return 0;
     });
 }
@@ -152,9 +152,9 @@ void cAdminJob::mDatenart(std::uint8_t bytDatenArt) {
             return;
         }
         frmEigenschaften& f = *mofrmEigenschaften;
-        ITextBox& txtImport = f.txtTextBox(3);
-        ITextBox& txtBackup = f.txtTextBox(1);
-        ITextBox& txtDritte = f.txtTextBox(4);
+        ITextBox& txtImport = f.txtTextBox(frmEigenschaften::Txt::Importdaten);
+        ITextBox& txtBackup = f.txtTextBox(frmEigenschaften::Txt::Backup);
+        ITextBox& txtDritte = f.txtTextBox(frmEigenschaften::Txt::Logfiles);
         ISelection& ctlBuchProp = f.ctlMitarbeiterBuchProp();
 
         mSetFraBuchungen(false);
@@ -167,8 +167,9 @@ void cAdminJob::mDatenart(std::uint8_t bytDatenArt) {
         }
         if (bytDatenArt != DatenArt::KestoDirekt) {
             for (IControl* c : std::initializer_list<IControl*>{
-                     &txtDritte, &f.cmdCommandButton(8), &txtImport, &f.cmdCommandButton(2),
-                     &txtBackup, &f.cmdCommandButton(6)}) {
+                     &txtDritte, &f.cmdCommandButton(frmEigenschaften::Cmd::Logverzeichnis),
+                     &txtImport, &f.cmdCommandButton(frmEigenschaften::Cmd::Importverzeichnis),
+                     &txtBackup, &f.cmdCommandButton(frmEigenschaften::Cmd::Backupverzeichnis)}) {
                 c->setVisible(true);
                 c->setEnabled(true);
             }
@@ -188,26 +189,27 @@ void cAdminJob::mDatenart(std::uint8_t bytDatenArt) {
                 mSetFraBuchungen(true);
                 txtDritte.setEnabled(true);
                 txtDritte.setCaption(QStringLiteral("Fehler-MTA"));
-                f.cmdCommandButton(8).setEnabled(true);
+                f.cmdCommandButton(frmEigenschaften::Cmd::Logverzeichnis).setEnabled(true);
                 mitarbeiterAuswahl(kMitarbeiterTop);
-                f.chkCheckBox(1).setEnabled(true);
-                f.lblLabel(3).setCaption(suitePfad(ex) + kBuchungsLog);
+                f.chkCheckBox(frmEigenschaften::Chk::EinfachesLog).setEnabled(true);
+                f.lblLabel(frmEigenschaften::Lbl::BuchungsLog)
+                    .setCaption(suitePfad(ex) + kBuchungsLog);
                 f.chkFremdFormat().setEnabled(true);
                 if (f.chkFremdFormat().Value() != 1) {
                     f.ctlFremdFilter().setEnabled(false);
                     f.ctlFremdMapping().setEnabled(false);
-                    f.cmdCommandButton(10).setEnabled(false);
+                    f.cmdCommandButton(frmEigenschaften::Cmd::Mappingdatei).setEnabled(false);
                 }
                 break;
             }
             case DatenArt::Wirtschaftsgueter:
                 zeigen(txtImport, true);
                 txtDritte.setCaption(kLogfiles);
-                f.cmdCommandButton(8).setEnabled(true);
+                f.cmdCommandButton(frmEigenschaften::Cmd::Logverzeichnis).setEnabled(true);
                 break;
             case DatenArt::Kunden:
             case DatenArt::Lieferanten:
-                f.cmdCommandButton(8).setEnabled(true);
+                f.cmdCommandButton(frmEigenschaften::Cmd::Logverzeichnis).setEnabled(true);
                 txtDritte.setEnabled(true);
                 txtDritte.setCaption(kLogfiles);
                 mitarbeiterAuswahl(kMitarbeiterTop);
@@ -226,12 +228,12 @@ void cAdminJob::mDatenart(std::uint8_t bytDatenArt) {
                 mSetPicBelegarten(true);
                 zeigen(txtDritte, false);
                 txtDritte.setText(QString());
-                zeigen(f.cmdCommandButton(8), false);
+                zeigen(f.cmdCommandButton(frmEigenschaften::Cmd::Logverzeichnis), false);
                 zeigen(txtImport, true);
-                zeigen(f.cmdCommandButton(2), true);
+                zeigen(f.cmdCommandButton(frmEigenschaften::Cmd::Importverzeichnis), true);
                 zeigen(txtBackup, false);
                 txtBackup.setText(QString());
-                zeigen(f.cmdCommandButton(6), false);
+                zeigen(f.cmdCommandButton(frmEigenschaften::Cmd::Backupverzeichnis), false);
                 mitarbeiterAuswahl(txtBackup.Top());
                 break;
             case DatenArt::Nivora:
@@ -250,7 +252,7 @@ void cAdminJob::mDatenart(std::uint8_t bytDatenArt) {
                 txtImport.setToolTip(QStringLiteral("Verzeichnis für das Importformat"));
                 txtDritte.setEnabled(true);
                 txtDritte.setCaption(kLogfiles);
-                f.cmdCommandButton(8).setEnabled(true);
+                f.cmdCommandButton(frmEigenschaften::Cmd::Logverzeichnis).setEnabled(true);
                 mitarbeiterAuswahl(kMitarbeiterTop);
                 mSetTextDateiauswahl(mbytMandKanz, bytDatenArt);
                 break;
@@ -258,7 +260,7 @@ void cAdminJob::mDatenart(std::uint8_t bytDatenArt) {
                 break;
         }
 
-        IComboBox& cboMandKanz = f.cboComboBox(2);
+        IComboBox& cboMandKanz = f.cboComboBox(frmEigenschaften::Cbo::MandKanz);
         long lKey = 0;
         if (cboMandKanz.ItemCount() > 0) {
             lKey = cboMandKanz.Key();

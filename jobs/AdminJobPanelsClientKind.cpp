@@ -57,9 +57,9 @@ void cAdminJob::mSetTextDateiauswahl(std::uint8_t bytMandKanz, std::uint8_t) {
             return 0;
         }
         // For all clients the field holds a directory and a file name pattern.
-        mofrmEigenschaften->ctlOptFileName(1).setCaption(bytMandKanz < MandKanz::AlleMandanten
-                                                             ? QStringLiteral("Textdatei")
-                                                             : QStringLiteral("Textdatei (Pfad)"));
+        mofrmEigenschaften->ctlOptFileName(frmEigenschaften::OptDatei::Textdatei)
+            .setCaption(bytMandKanz < MandKanz::AlleMandanten ? QStringLiteral("Textdatei")
+                                                              : QStringLiteral("Textdatei (Pfad)"));
         return 0;
     });
 }

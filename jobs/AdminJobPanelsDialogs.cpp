@@ -27,7 +27,7 @@ void cAdminJob::mMappingDateiAuswaehlen() {
             return 0;
         }
         frmEigenschaften& f = *mofrmEigenschaften;
-        QString sPfad = f.txtTextBox(3).Text();
+        QString sPfad = f.txtTextBox(frmEigenschaften::Txt::Importdaten).Text();
         if (sPfad.isEmpty()) {
             sPfad = msStandardPfad;
         }

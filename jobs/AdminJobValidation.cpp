@@ -46,16 +46,16 @@ bool cAdminJob::mbCheckEigenschaften() {
             fokus.SetFocus();
         };
 
-        if (f.txtTextBox(0).Text().trimmed().isEmpty()) {
+        if (f.txtTextBox(frmEigenschaften::Txt::Name).Text().trimmed().isEmpty()) {
             mlMsgBox(QStringLiteral("Bitte geben Sie einen Namen für den Auftrag an."),
                      MsgStyle::Information);
             bOk = false;
-            f.tabControl().setTab(0);
-            f.txtTextBox(0).SetFocus();
+            f.tabControl().setTab(frmEigenschaften::Tab::Allgemein);
+            f.txtTextBox(frmEigenschaften::Txt::Name).SetFocus();
         }
 
         if (bOk) {
-            const long lKanz = f.cboComboBox(2).Key();
+            const long lKanz = f.cboComboBox(frmEigenschaften::Cbo::MandKanz).Key();
             if ((lKanz == MandKanz::Mandant || lKanz == MandKanz::Kanzlei) &&
                 f.ctlMandant().Id() == 0) {
                 melden(lKanz == MandKanz::Mandant
@@ -67,7 +67,7 @@ bool cAdminJob::mbCheckEigenschaften() {
 
         // A dealer job is offered in no list: its type stands in no item of the combo, and
         // the type the editor stands on counts.
-        long lArt = f.cboComboBox(0).Key();
+        long lArt = f.cboComboBox(frmEigenschaften::Cbo::Auftragsart).Key();
         if (lArt < 0) {
             lArt = mbytDatenArt;
         }
@@ -81,20 +81,20 @@ bool cAdminJob::mbCheckEigenschaften() {
             return bOk;
         }
 
-        ITextBox& txtImport = f.txtTextBox(3);
-        ITextBox& txtBackup = f.txtTextBox(1);
-        ITextBox& txtDritte = f.txtTextBox(4);
+        ITextBox& txtImport = f.txtTextBox(frmEigenschaften::Txt::Importdaten);
+        ITextBox& txtBackup = f.txtTextBox(frmEigenschaften::Txt::Backup);
+        ITextBox& txtDritte = f.txtTextBox(frmEigenschaften::Txt::Logfiles);
 
         if (lArt == DatenArt::Textdatei) {
-            if (bOk && f.ctlOptFileName(0).Text().isEmpty()) {
+            if (bOk && f.ctlOptFileName(frmEigenschaften::OptDatei::Skript).Text().isEmpty()) {
                 melden(QStringLiteral(
                            "Bitte wählen sie eine Script-Datei für den Textdatei-Import aus."),
-                       f.ctlOptFileName(0));
+                       f.ctlOptFileName(frmEigenschaften::OptDatei::Skript));
             }
-            if (bOk && f.ctlOptFileName(1).Text().isEmpty()) {
+            if (bOk && f.ctlOptFileName(frmEigenschaften::OptDatei::Textdatei).Text().isEmpty()) {
                 melden(
                     QStringLiteral("Bitte wählen sie eine Textdatei für den Textdatei-Import aus."),
-                    f.ctlOptFileName(1));
+                    f.ctlOptFileName(frmEigenschaften::OptDatei::Textdatei));
             }
         }
 
@@ -120,7 +120,7 @@ bool cAdminJob::mbCheckEigenschaften() {
         if (lArt != DatenArt::KestoDirekt) {
             if (bOk && txtDritte.Text().isEmpty()) {
                 if (lArt == DatenArt::Nivora) {
-                    if (f.cboComboBox(3).Key() != kNivoraOhneTempPfad) {
+                    if (f.cboComboBox(frmEigenschaften::Cbo::Nivora).Key() != kNivoraOhneTempPfad) {
                         melden(QStringLiteral("Bitte wählen Sie das Verzeichnis für die "
                                               "temporären Buchungsdateien (MTA) aus."),
                                txtDritte);
@@ -186,7 +186,7 @@ bool cAdminJob::mbCheckBackupPfadVorhanden() {
         if (mbBackupGefragt || !mofrmEigenschaften) {
             return true;
         }
-        ITextBox& txtBackup = mofrmEigenschaften->txtTextBox(1);
+        ITextBox& txtBackup = mofrmEigenschaften->txtTextBox(frmEigenschaften::Txt::Backup);
         if (txtBackup.Text().trimmed().isEmpty()) {
             const long lAntwort = mlMsgBox(
                 QStringLiteral("Sie haben kein Verzeichnis für das Backup ausgewählt. In diesem "

@@ -15,9 +15,7 @@ constexpr int kTextTitelKopf = 1001;
 // Yes and No with the question's picture, as the window has always asked.
 constexpr long kStilFrage = 68;
 
-namespace Knopf {
-constexpr int Ok = 0;
-}  // namespace Knopf
+using Knopf = frmLogDatenDel::Aktion;
 
 const QString kKurzesDatum = QStringLiteral("dd.MM.yyyy");
 
@@ -52,8 +50,8 @@ void cLogDaten::mLogdatenDeleteAuswahl(long lLogArt, long& lJobId) {
                                             msJobNameLog + QStringLiteral("' löschen!"));
         }
         const QDate heute = clockNow().date();
-        frm.ctlDatePicker(0).setValue(heute);
-        frm.ctlDatePicker(1).setValue(heute);
+        frm.ctlDatePicker(frmLogDatenDel::Datum::Von).setValue(heute);
+        frm.ctlDatePicker(frmLogDatenDel::Datum::Bis).setValue(heute);
         mlLoeschArt = lLogArt;
 
         texte.SetFormIcon(frm.window(), kFensterSymbol);
@@ -94,8 +92,8 @@ bool cLogDaten::mbLogDatenLoeschen() {
         }
         frmLogDatenDel& frm = *moFrmLogDatenDel;
         const QString sTitel = frm.window().Caption();
-        const std::optional<QDate> von = frm.ctlDatePicker(0).Value();
-        const std::optional<QDate> bis = frm.ctlDatePicker(1).Value();
+        const std::optional<QDate> von = frm.ctlDatePicker(frmLogDatenDel::Datum::Von).Value();
+        const std::optional<QDate> bis = frm.ctlDatePicker(frmLogDatenDel::Datum::Bis).Value();
         // A field left empty is no period: it counts as an invalid entry, like a Von after
         // the Bis, so that nothing is deleted without an end on either side.
         if (!von || !bis || !von->isValid() || !bis->isValid() || *von > *bis) {

@@ -6,7 +6,9 @@
 #include <QSqlQuery>
 #include <atomic>
 
+#include "common/ErrObject.h"
 #include "scenario/ScenarioError.h"
+#include "suite/PostgresConnection.h"
 
 namespace {
 
@@ -23,16 +25,14 @@ QSqlDatabase maintenance() {
             return db;
         }
     }
-    QSqlDatabase db = QSqlDatabase::contains(kMaintenance)
-                          ? QSqlDatabase::database(kMaintenance, false)
-                          : QSqlDatabase::addDatabase(QStringLiteral("QPSQL"), kMaintenance);
-    db.setDatabaseName(QStringLiteral("postgres"));
-    if (!db.open()) {
+    try {
+        return PostgresConnection::open(kMaintenance,
+                                        PostgresConnection::addressOf(QStringLiteral("postgres")),
+                                        {QStringLiteral("autojobverw-scenario")});
+    } catch (const RaisedError& e) {
         scenarioFail(QStringLiteral("no PostgreSQL server (PGHOST=%1): %2")
-                         .arg(qEnvironmentVariable("PGHOST"), db.lastError().text()));
+                         .arg(qEnvironmentVariable("PGHOST"), e.err().Description));
     }
-    QSqlQuery(db).exec(QStringLiteral("SET client_min_messages = warning"));
-    return db;
 }
 
 void run(const QString& sql) {
@@ -66,5 +66,5 @@ ScenarioServerDatabase::~ScenarioServerDatabase() {
 }
 
 QString ScenarioServerDatabase::address() const {
-    return QStringLiteral("postgresql:///") + name_;
+    return PostgresConnection::addressOf(name_);
 }

@@ -71,45 +71,45 @@ void cAdminJob::mFuelleFrmZeitintervall() {
         frmZeitIntervall& f = required(oFenster);
         const cSchedule& o = required(moSchedule);
         f.window().setCaption(kCaption);
-        f.lblLabel(6).setCaption(kAuftragsname + o.psName);
+        f.lblLabel(frmZeitIntervall::Lbl::Auftragsname).setCaption(kAuftragsname + o.psName);
 
         const QString sStart = msGetTimeString(zeitAlsText(o.pvActiveStartTimeOfDay));
         const QString sEnde = msGetTimeString(zeitAlsText(o.pvActiveEndTimeOfDay));
 
         switch (o.plFrequencyType) {
             case Haeufigkeit::kTaeglich:
-                mShowFrameZeitIntervall(1);
-                f.optHaeufigkeit(0).setValue(true);
-                mNummern(0, kTage, o.plFrequencyIntervall);
+                mShowFrameZeitIntervall(frmZeitIntervall::Fra::Taeglich);
+                f.optHaeufigkeit(frmZeitIntervall::Haeufigkeit::Taeglich).setValue(true);
+                mNummern(frmZeitIntervall::Cbo::TageAlle, kTage, o.plFrequencyIntervall);
                 break;
             case Haeufigkeit::kMonatlich:
-                mShowFrameZeitIntervall(2);
-                f.optHaeufigkeit(2).setValue(true);
+                mShowFrameZeitIntervall(frmZeitIntervall::Fra::Monatlich);
+                f.optHaeufigkeit(frmZeitIntervall::Haeufigkeit::Monatlich).setValue(true);
                 mEnableMonatlichAm(true);
-                f.optMonatlich(0).setValue(true);
-                f.ctlMaskEdBox(0).setText(sStart);
-                mNummern(1, kMonatstage, o.plFrequencyIntervall);
-                mNummern(2, kMonate, o.plFrequencyRecurreFactor);
-                mInitCBO_Wochentag(4, kKeineAuswahl);
-                mNummern(5, kMonate, kKeineAuswahl);
-                mInitCBO_First(3, kKeineAuswahl);
+                f.optMonatlich(frmZeitIntervall::Monatlich::Tag).setValue(true);
+                f.ctlMaskEdBox(frmZeitIntervall::Zeit::EinmaligUm).setText(sStart);
+                mNummern(frmZeitIntervall::Cbo::MonatTag, kMonatstage, o.plFrequencyIntervall);
+                mNummern(frmZeitIntervall::Cbo::MonateAlle, kMonate, o.plFrequencyRecurreFactor);
+                mInitCBO_Wochentag(frmZeitIntervall::Cbo::AmWochentag, kKeineAuswahl);
+                mNummern(frmZeitIntervall::Cbo::AmMonateAlle, kMonate, kKeineAuswahl);
+                mInitCBO_First(frmZeitIntervall::Cbo::AmErster, kKeineAuswahl);
                 break;
             case Haeufigkeit::kMonatlichRelativ:
-                mShowFrameZeitIntervall(2);
-                f.optHaeufigkeit(2).setValue(true);
+                mShowFrameZeitIntervall(frmZeitIntervall::Fra::Monatlich);
+                f.optHaeufigkeit(frmZeitIntervall::Haeufigkeit::Monatlich).setValue(true);
                 mEnableMonatlichAm(false);
-                f.optMonatlich(1).setValue(true);
-                f.ctlMaskEdBox(0).setText(sStart);
-                mInitCBO_Wochentag(4, o.plFrequencyIntervall);
-                mNummern(5, kMonate, o.plFrequencyRecurreFactor);
-                mInitCBO_First(3, o.plFrequencyRelativeIntervall);
-                mNummern(1, kMonatstage, kKeineAuswahl);
-                mNummern(2, kMonate, kKeineAuswahl);
+                f.optMonatlich(frmZeitIntervall::Monatlich::Am).setValue(true);
+                f.ctlMaskEdBox(frmZeitIntervall::Zeit::EinmaligUm).setText(sStart);
+                mInitCBO_Wochentag(frmZeitIntervall::Cbo::AmWochentag, o.plFrequencyIntervall);
+                mNummern(frmZeitIntervall::Cbo::AmMonateAlle, kMonate, o.plFrequencyRecurreFactor);
+                mInitCBO_First(frmZeitIntervall::Cbo::AmErster, o.plFrequencyRelativeIntervall);
+                mNummern(frmZeitIntervall::Cbo::MonatTag, kMonatstage, kKeineAuswahl);
+                mNummern(frmZeitIntervall::Cbo::MonateAlle, kMonate, kKeineAuswahl);
                 break;
             default:  // weekly, and whatever else stands in the record
-                mShowFrameZeitIntervall(5);
-                f.optHaeufigkeit(1).setValue(true);
-                mNummern(8, kWochen, o.plFrequencyRecurreFactor);
+                mShowFrameZeitIntervall(frmZeitIntervall::Fra::Woechentlich);
+                f.optHaeufigkeit(frmZeitIntervall::Haeufigkeit::Woechentlich).setValue(true);
+                mNummern(frmZeitIntervall::Cbo::WochenAlle, kWochen, o.plFrequencyRecurreFactor);
                 mSetzeWochentage(o.plFrequencyIntervall);
                 break;
         }
@@ -117,37 +117,38 @@ void cAdminJob::mFuelleFrmZeitintervall() {
         switch (o.plFrequencySubDay) {
             case TagesEinheit::kEinmalig:
                 mEnableHaeufigkeitProTag_Einmalig(false);
-                f.optHaeufigkeit(3).setValue(true);
-                f.ctlMaskEdBox(0).setText(sStart);
-                f.ctlMaskEdBox(1).setText(sStart);
-                f.ctlMaskEdBox(2).setText(sEnde);
-                mInitCBO_MinuteStunde(7, TagesEinheit::kStunden);
-                mNummern(6, kStunden, 1);
+                f.optHaeufigkeit(frmZeitIntervall::Haeufigkeit::EinmaligUm).setValue(true);
+                f.ctlMaskEdBox(frmZeitIntervall::Zeit::EinmaligUm).setText(sStart);
+                f.ctlMaskEdBox(frmZeitIntervall::Zeit::StartetUm).setText(sStart);
+                f.ctlMaskEdBox(frmZeitIntervall::Zeit::EndetUm).setText(sEnde);
+                mInitCBO_MinuteStunde(frmZeitIntervall::Cbo::JedeEinheit, TagesEinheit::kStunden);
+                mNummern(frmZeitIntervall::Cbo::JedeAnzahl, kStunden, 1);
                 break;
             case TagesEinheit::kMinuten:
             case TagesEinheit::kStunden:
                 mEnableHaeufigkeitProTag_Einmalig(true);
-                f.optHaeufigkeit(4).setValue(true);
-                f.ctlMaskEdBox(0).setText(sStart);
-                f.ctlMaskEdBox(1).setText(sStart);
-                f.ctlMaskEdBox(2).setText(sEnde);
-                mInitCBO_MinuteStunde(7, o.plFrequencySubDay);
-                mNummern(6, o.plFrequencySubDay == TagesEinheit::kStunden ? kStunden : kMinuten,
+                f.optHaeufigkeit(frmZeitIntervall::Haeufigkeit::Jede).setValue(true);
+                f.ctlMaskEdBox(frmZeitIntervall::Zeit::EinmaligUm).setText(sStart);
+                f.ctlMaskEdBox(frmZeitIntervall::Zeit::StartetUm).setText(sStart);
+                f.ctlMaskEdBox(frmZeitIntervall::Zeit::EndetUm).setText(sEnde);
+                mInitCBO_MinuteStunde(frmZeitIntervall::Cbo::JedeEinheit, o.plFrequencySubDay);
+                mNummern(frmZeitIntervall::Cbo::JedeAnzahl,
+                         o.plFrequencySubDay == TagesEinheit::kStunden ? kStunden : kMinuten,
                          o.plFrequencySubDayIntervall);
                 break;
             default:
                 break;
         }
 
-        f.ctlDatePicker(0).setValue(o.pdtActiveStartDate.date());
+        f.ctlDatePicker(frmZeitIntervall::Datum::Anfang).setValue(o.pdtActiveStartDate.date());
         if (istOhneEnde(o.pdtActiveEndDate)) {
-            f.ctlDatePicker(1).setEnabled(false);
-            f.optEnddatum(1).setValue(true);
-            f.ctlDatePicker(1).setValue(clockNow().date());
+            f.ctlDatePicker(frmZeitIntervall::Datum::Ende).setEnabled(false);
+            f.optEnddatum(frmZeitIntervall::Enddatum::Ohne).setValue(true);
+            f.ctlDatePicker(frmZeitIntervall::Datum::Ende).setValue(clockNow().date());
         } else {
-            f.ctlDatePicker(1).setEnabled(true);
-            f.optEnddatum(0).setValue(true);
-            f.ctlDatePicker(1).setValue(o.pdtActiveEndDate.date());
+            f.ctlDatePicker(frmZeitIntervall::Datum::Ende).setEnabled(true);
+            f.optEnddatum(frmZeitIntervall::Enddatum::Mit).setValue(true);
+            f.ctlDatePicker(frmZeitIntervall::Datum::Ende).setValue(o.pdtActiveEndDate.date());
         }
         return 0;
     });
@@ -159,66 +160,70 @@ void cAdminJob::mSpeichernZeitintervall() {
         cSchedule& o = required(moSchedule);
         mInitZeitplan();
 
-        if (f.optHaeufigkeit(0).Value()) {
+        if (f.optHaeufigkeit(frmZeitIntervall::Haeufigkeit::Taeglich).Value()) {
             o.plFrequencyType = Haeufigkeit::kTaeglich;
-        } else if (f.optHaeufigkeit(1).Value()) {
+        } else if (f.optHaeufigkeit(frmZeitIntervall::Haeufigkeit::Woechentlich).Value()) {
             o.plFrequencyType = Haeufigkeit::kWoechentlich;
-        } else if (f.optHaeufigkeit(2).Value()) {
-            if (f.optMonatlich(0).Value()) {
+        } else if (f.optHaeufigkeit(frmZeitIntervall::Haeufigkeit::Monatlich).Value()) {
+            if (f.optMonatlich(frmZeitIntervall::Monatlich::Tag).Value()) {
                 o.plFrequencyType = Haeufigkeit::kMonatlich;
-            } else if (f.optMonatlich(1).Value()) {
+            } else if (f.optMonatlich(frmZeitIntervall::Monatlich::Am).Value()) {
                 o.plFrequencyType = Haeufigkeit::kMonatlichRelativ;
             }
         }
 
         switch (o.plFrequencyType) {
             case Haeufigkeit::kTaeglich:
-                o.plFrequencyIntervall = mlCBOKey(0);
+                o.plFrequencyIntervall = mlCBOKey(frmZeitIntervall::Cbo::TageAlle);
                 break;
             case Haeufigkeit::kWoechentlich:
-                o.plFrequencyRecurreFactor = mlCBOKey(8);
+                o.plFrequencyRecurreFactor = mlCBOKey(frmZeitIntervall::Cbo::WochenAlle);
                 o.plFrequencyIntervall = mlGetWochentage();
                 break;
             case Haeufigkeit::kMonatlich:
-                o.plFrequencyRecurreFactor = mlCBOKey(2);
-                o.plFrequencyIntervall = mlCBOKey(1);
+                o.plFrequencyRecurreFactor = mlCBOKey(frmZeitIntervall::Cbo::MonateAlle);
+                o.plFrequencyIntervall = mlCBOKey(frmZeitIntervall::Cbo::MonatTag);
                 break;
             case Haeufigkeit::kMonatlichRelativ:
-                o.plFrequencyRecurreFactor = mlCBOKey(5);
-                o.plFrequencyIntervall = mlCBOKey(4);
-                o.plFrequencyRelativeIntervall = mlCBOKey(3);
+                o.plFrequencyRecurreFactor = mlCBOKey(frmZeitIntervall::Cbo::AmMonateAlle);
+                o.plFrequencyIntervall = mlCBOKey(frmZeitIntervall::Cbo::AmWochentag);
+                o.plFrequencyRelativeIntervall = mlCBOKey(frmZeitIntervall::Cbo::AmErster);
                 break;
             default:
                 break;
         }
 
-        if (f.optHaeufigkeit(3).Value()) {
+        if (f.optHaeufigkeit(frmZeitIntervall::Haeufigkeit::EinmaligUm).Value()) {
             o.plFrequencySubDay = TagesEinheit::kEinmalig;
-        } else if (f.optHaeufigkeit(4).Value()) {
-            o.plFrequencySubDay = mlCBOKey(7);
+        } else if (f.optHaeufigkeit(frmZeitIntervall::Haeufigkeit::Jede).Value()) {
+            o.plFrequencySubDay = mlCBOKey(frmZeitIntervall::Cbo::JedeEinheit);
         }
 
         switch (o.plFrequencySubDay) {
             case TagesEinheit::kEinmalig:
-                o.plFrequencySubDayIntervall = mlCBOKey(6);
-                o.pvActiveStartTimeOfDay = zeitAusBox(f.ctlMaskEdBox(0));
-                o.pvActiveEndTimeOfDay = zeitAusBox(f.ctlMaskEdBox(2));
+                o.plFrequencySubDayIntervall = mlCBOKey(frmZeitIntervall::Cbo::JedeAnzahl);
+                o.pvActiveStartTimeOfDay =
+                    zeitAusBox(f.ctlMaskEdBox(frmZeitIntervall::Zeit::EinmaligUm));
+                o.pvActiveEndTimeOfDay =
+                    zeitAusBox(f.ctlMaskEdBox(frmZeitIntervall::Zeit::EndetUm));
                 break;
             case TagesEinheit::kMinuten:
             case TagesEinheit::kStunden:
-                o.pvActiveStartTimeOfDay = zeitAusBox(f.ctlMaskEdBox(1));
-                o.pvActiveEndTimeOfDay = zeitAusBox(f.ctlMaskEdBox(2));
-                o.plFrequencySubDayIntervall = mlCBOKey(6);
+                o.pvActiveStartTimeOfDay =
+                    zeitAusBox(f.ctlMaskEdBox(frmZeitIntervall::Zeit::StartetUm));
+                o.pvActiveEndTimeOfDay =
+                    zeitAusBox(f.ctlMaskEdBox(frmZeitIntervall::Zeit::EndetUm));
+                o.plFrequencySubDayIntervall = mlCBOKey(frmZeitIntervall::Cbo::JedeAnzahl);
                 break;
             default:
                 break;
         }
 
-        o.pdtActiveStartDate = tagAusPicker(f.ctlDatePicker(0));
-        if (f.optEnddatum(1).Value()) {
+        o.pdtActiveStartDate = tagAusPicker(f.ctlDatePicker(frmZeitIntervall::Datum::Anfang));
+        if (f.optEnddatum(frmZeitIntervall::Enddatum::Ohne).Value()) {
             o.pdtActiveEndDate = keinEndDatum();
-        } else if (f.optEnddatum(0).Value()) {
-            o.pdtActiveEndDate = tagAusPicker(f.ctlDatePicker(1));
+        } else if (f.optEnddatum(frmZeitIntervall::Enddatum::Mit).Value()) {
+            o.pdtActiveEndDate = tagAusPicker(f.ctlDatePicker(frmZeitIntervall::Datum::Ende));
         }
         return 0;
     });

@@ -137,11 +137,11 @@ bool cAdminJob::mbCheckWochentag() {
 void cAdminJob::mEnableHaeufigkeitProTag_Einmalig(bool bEnable) {
     withErrorExit(QStringLiteral("mEnableHaeufigkeitProTag_Einmalig"), kKlasse, 0, [&](ErrorExit&) {
         frmZeitIntervall& f = required(mofrmzeitIntervall);
-        f.ctlMaskEdBox(0).setEnabled(!bEnable);
-        f.ctlMaskEdBox(1).setEnabled(bEnable);
-        f.ctlMaskEdBox(2).setEnabled(bEnable);
-        f.cboComboBox(6).setEnabled(bEnable);
-        f.cboComboBox(7).setEnabled(bEnable);
+        f.ctlMaskEdBox(frmZeitIntervall::Zeit::EinmaligUm).setEnabled(!bEnable);
+        f.ctlMaskEdBox(frmZeitIntervall::Zeit::StartetUm).setEnabled(bEnable);
+        f.ctlMaskEdBox(frmZeitIntervall::Zeit::EndetUm).setEnabled(bEnable);
+        f.cboComboBox(frmZeitIntervall::Cbo::JedeAnzahl).setEnabled(bEnable);
+        f.cboComboBox(frmZeitIntervall::Cbo::JedeEinheit).setEnabled(bEnable);
         return 0;
     });
 }
@@ -149,13 +149,13 @@ void cAdminJob::mEnableHaeufigkeitProTag_Einmalig(bool bEnable) {
 void cAdminJob::mEnableMonatlichAm(bool bEnable) {
     withErrorExit(QStringLiteral("mEnableMonatlichAm"), kKlasse, 0, [&](ErrorExit&) {
         frmZeitIntervall& f = required(mofrmzeitIntervall);
-        f.lblLabel(1).setEnabled(bEnable);
-        f.cboComboBox(1).setEnabled(bEnable);
-        f.cboComboBox(2).setEnabled(bEnable);
-        f.lblLabel(2).setEnabled(!bEnable);
-        f.cboComboBox(3).setEnabled(!bEnable);
-        f.cboComboBox(4).setEnabled(!bEnable);
-        f.cboComboBox(5).setEnabled(!bEnable);
+        f.lblLabel(frmZeitIntervall::Lbl::MonateTag).setEnabled(bEnable);
+        f.cboComboBox(frmZeitIntervall::Cbo::MonatTag).setEnabled(bEnable);
+        f.cboComboBox(frmZeitIntervall::Cbo::MonateAlle).setEnabled(bEnable);
+        f.lblLabel(frmZeitIntervall::Lbl::MonateAm).setEnabled(!bEnable);
+        f.cboComboBox(frmZeitIntervall::Cbo::AmErster).setEnabled(!bEnable);
+        f.cboComboBox(frmZeitIntervall::Cbo::AmWochentag).setEnabled(!bEnable);
+        f.cboComboBox(frmZeitIntervall::Cbo::AmMonateAlle).setEnabled(!bEnable);
         return 0;
     });
 }
@@ -164,7 +164,8 @@ void cAdminJob::mShowFrameZeitIntervall(int Index) {
     withErrorExit(QStringLiteral("mShowFrameZeitIntervall"), kKlasse, 0, [&](ErrorExit&) {
         frmZeitIntervall& f = required(mofrmzeitIntervall);
         // The three frames share one place; the layout puts them there.
-        for (int i : {1, 5, 2}) {
+        for (int i : {frmZeitIntervall::Fra::Taeglich, frmZeitIntervall::Fra::Woechentlich,
+                      frmZeitIntervall::Fra::Monatlich}) {
             f.fraFrame(i).setVisible(false);
         }
         f.fraFrame(Index).setVisible(true);

@@ -16,14 +16,7 @@
 
 namespace {
 
-constexpr int kEinmal = 2;
-constexpr int kWiederholt = 3;
-
-namespace Knopf {
-constexpr int Ok = 0;
-constexpr int Abbrechen = 1;
-constexpr int Aendern = 2;
-}  // namespace Knopf
+using Knopf = frmZeitplan::Cmd;
 
 bool istWiederholt(std::int32_t lTyp) {
     return lTyp == Haeufigkeit::kTaeglich || lTyp == Haeufigkeit::kWoechentlich ||
@@ -53,8 +46,8 @@ void leseZeitplan(CRecordset& oTL, cSchedule& o) {
 void sperren(frmZeitplan& frm) {
     frm.ctlDatePicker().setEnabled(false);
     frm.ctlMaskEdBox().setEnabled(false);
-    frm.cmdCommandButton(2).setEnabled(false);
-    frm.lblLabel(0).setVisible(false);
+    frm.cmdCommandButton(frmZeitplan::Cmd::Aendern).setEnabled(false);
+    frm.lblLabel(frmZeitplan::Lbl::Intervall).setVisible(false);
 }
 
 void fensterSchliessen(std::shared_ptr<frmZeitplan>& fenster) {
@@ -127,23 +120,23 @@ void cAdminJob::mShowZeitplanEigenschaften(long lZeitplanId) {
         frm.ctlDatePicker().setValue(o.pdtActiveStartDate.date());
         int iOption = -1;
         if (o.plFrequencyType == Haeufigkeit::kEinmal) {
-            iOption = kEinmal;
+            iOption = frmZeitplan::Opt::Einmal;
             frm.ctlDatePicker().setEnabled(true);
             frm.ctlMaskEdBox().setEnabled(true);
             frm.ctlMaskEdBox().setText(msGetTimeString(zeitAlsText(o.pvActiveStartTimeOfDay)));
         } else if (istWiederholt(o.plFrequencyType)) {
-            iOption = kWiederholt;
-            frm.lblLabel(0).setVisible(true);
+            iOption = frmZeitplan::Opt::Wiederholt;
+            frm.lblLabel(frmZeitplan::Lbl::Intervall).setVisible(true);
             // A later switch to a single run starts from the present time.
             frm.ctlMaskEdBox().setText(clockNow().time().toString(QStringLiteral("HH:mm")) +
                                        QStringLiteral(":00"));
-            frm.lblLabel(0).setCaption(msGetIntervallString());
+            frm.lblLabel(frmZeitplan::Lbl::Intervall).setCaption(msGetIntervallString());
         }
         frm.chkCheckBox().setValue(o.pbyAktiviert);
         if (iOption >= 0) {
             frm.optOption(iOption).setValue(true);
         }
-        frm.txtTextBox(0).setText(required(moSchedule).psName);
+        frm.txtTextBox(frmZeitplan::Txt::Name).setText(required(moSchedule).psName);
     } catch (...) {
         ex.fail();
     }
@@ -168,20 +161,21 @@ void cAdminJob::mofrmZeitplanEigenschaften_evFRMZeitplanOptOptionClicked(int Ind
     withErrorExit(QStringLiteral("mofrmZeitplanEigenschaften_evFRMZeitplanOptOptionClicked"),
                   kKlasse, 0, [&](ErrorExit&) {
                       frmZeitplan& frm = required(mofrmZeitplanEigenschaften);
-                      if (Index == kEinmal) {
+                      if (Index == frmZeitplan::Opt::Einmal) {
                           mDisableControls();
                           frm.ctlDatePicker().setEnabled(true);
                           frm.ctlMaskEdBox().setEnabled(true);
                           if (!mbLadeZeitplan) {
                               frm.ctlDatePicker().SetFocus();
                           }
-                      } else if (Index == kWiederholt) {
+                      } else if (Index == frmZeitplan::Opt::Wiederholt) {
                           mDisableControls();
-                          frm.lblLabel(0).setVisible(true);
-                          frm.cmdCommandButton(2).setEnabled(true);
+                          frm.lblLabel(frmZeitplan::Lbl::Intervall).setVisible(true);
+                          frm.cmdCommandButton(frmZeitplan::Cmd::Aendern).setEnabled(true);
                           // An empty description means no recurrence is on show yet.
-                          if (frm.lblLabel(0).Caption().isEmpty()) {
-                              mShowZeitplanIntervall(frm.lblLabel(0), mlZeilenGrdZeitplan());
+                          if (frm.lblLabel(frmZeitplan::Lbl::Intervall).Caption().isEmpty()) {
+                              mShowZeitplanIntervall(frm.lblLabel(frmZeitplan::Lbl::Intervall),
+                                                     mlZeilenGrdZeitplan());
                           }
                       }
                       return 0;

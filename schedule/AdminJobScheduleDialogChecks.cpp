@@ -12,8 +12,6 @@
 
 namespace {
 
-constexpr int kEinmal = 2;
-
 // What the classic runtime counts as numeric, for the characters a time box can hold.
 bool istNumerisch(const QString& sText) {
     bool bOk = false;
@@ -36,11 +34,11 @@ QString cAdminJob::msCheckValuesFRMZeitplan() {
     return withErrorExit(
         QStringLiteral("msCheckValuesFRMZeitplan"), kKlasse, QString(), [this](ErrorExit&) {
             frmZeitplan& frm = required(mofrmZeitplanEigenschaften);
-            if (frm.txtTextBox(0).Text().isEmpty()) {
-                frm.txtTextBox(0).SetFocus();
+            if (frm.txtTextBox(frmZeitplan::Txt::Name).Text().isEmpty()) {
+                frm.txtTextBox(frmZeitplan::Txt::Name).SetFocus();
                 return QStringLiteral("Bitte geben Sie einen Namen für den Zeitplan an.");
             }
-            if (frm.optOption(kEinmal).Value()) {
+            if (frm.optOption(frmZeitplan::Opt::Einmal).Value()) {
                 const std::optional<QDate> dtDatum = frm.ctlDatePicker().Value();
                 if (!dtDatum || !dtDatum->isValid() || *dtDatum == QDate(9999, 12, 31)) {
                     frm.ctlDatePicker().SetFocus();
@@ -84,9 +82,9 @@ bool cAdminJob::mZeitplanEigenschaftenUebernehmen() {
         QStringLiteral("mZeitplanEigenschaftenUebernehmen"), kKlasse, false, [this](ErrorExit&) {
             frmZeitplan& frm = required(mofrmZeitplanEigenschaften);
             cSchedule& o = required(moSchedule);
-            o.psName = frm.txtTextBox(0).Text();
+            o.psName = frm.txtTextBox(frmZeitplan::Txt::Name).Text();
             o.pbyAktiviert = alsByte(frm.chkCheckBox().Value());
-            if (frm.optOption(kEinmal).Value()) {
+            if (frm.optOption(frmZeitplan::Opt::Einmal).Value()) {
                 mInitZeitplan();
                 o.plFrequencyType = Haeufigkeit::kEinmal;
                 const QDateTime dtDatum(frm.ctlDatePicker().Value().value_or(QDate()), QTime(0, 0));

@@ -6,6 +6,7 @@
 #include <QSqlQuery>
 #include <QSqlRecord>
 
+#include "suite/PostgresConnection.h"
 #include "suite/SqlDates.h"
 #include "suite/SqlDialect.h"
 #include "suite/SqlErrors.h"
@@ -99,33 +100,8 @@ QVariantList locatorOf(const QSqlQuery& query) {
 
 void PostgresBackend::connect(const QString& connectionName, const PostgresAddress& address,
                               int busyTimeoutMs) {
-    QSqlDatabase db = QSqlDatabase::addDatabase(QStringLiteral("QPSQL"), connectionName);
-    if (!db.isValid()) {
-        throw SqlErrors::raised(
-            ErrNumber::Database,
-            QStringLiteral("Der Datenbanktreiber QPSQL fehlt (Paket libqt6sql6-psql)."));
-    }
-    db.setHostName(address.host);
-    if (address.port != 0) {
-        db.setPort(address.port);
-    }
-    db.setUserName(address.user);
-    db.setDatabaseName(address.database);
-    QStringList options = address.options;
-    if (std::none_of(options.cbegin(), options.cend(),
-                     [](const QString& o) { return o.startsWith(u"connect_timeout="); })) {
-        options << QStringLiteral("connect_timeout=10");
-    }
-    options << QStringLiteral("application_name=autojobverw");
-    db.setConnectOptions(options.join(u';'));
-    if (!db.open()) {
-        const QSqlError error = db.lastError();
-        throw SqlErrors::raised(kCantOpen, error.databaseText().trimmed().isEmpty()
-                                               ? error.text().trimmed()
-                                               : error.databaseText().trimmed());
-    }
-    busyTimeoutMs_ = busyTimeoutMs;
-    applySessionSettings(db, busyTimeoutMs);
+    session_.lockTimeoutMs = busyTimeoutMs;
+    const QSqlDatabase db = PostgresConnection::open(connectionName, address, session_);
     const QString readOnly = QStringLiteral("SHOW transaction_read_only");
     QSqlQuery query = runSql(*this, db, readOnly, {}, readOnly);
     if (query.next() && query.value(0).toString() == u"on") {
@@ -135,20 +111,13 @@ void PostgresBackend::connect(const QString& connectionName, const PostgresAddre
     }
 }
 
-void PostgresBackend::applySessionSettings(const QSqlDatabase& db, int busyTimeoutMs) {
-    QSqlQuery query(db);
-    query.exec(QStringLiteral("SET lock_timeout = %1").arg(std::max(busyTimeoutMs, 0)));
-    query.exec(QStringLiteral("SET datestyle = ISO, YMD"));
-    query.exec(QStringLiteral("SET client_min_messages = warning"));
-}
-
 void PostgresBackend::recover(QSqlDatabase db, const QSqlError& error) const {
     if (!connectionLost(error)) {
         return;
     }
     db.close();
     if (db.open()) {
-        applySessionSettings(db, busyTimeoutMs_);
+        PostgresConnection::applySession(db, session_);
     }
 }
 

@@ -3,6 +3,7 @@
 #include <QHash>
 
 #include "suite/PostgresAddress.h"
+#include "suite/PostgresConnection.h"
 #include "suite/SqlBackend.h"
 
 // PostgreSQL: the database an office shares on a server. The schema's names are all in lower
@@ -33,9 +34,7 @@ class PostgresBackend : public SqlBackend {
     QString schemaResource() const override { return QStringLiteral(":/db/schema.postgresql.sql"); }
 
   private:
-    static void applySessionSettings(const QSqlDatabase& db, int busyTimeoutMs);
-
-    int busyTimeoutMs_ = 0;
+    PostgresConnection::Session session_;
     QHash<QString, std::optional<SqlTable>> tables_;
     mutable QString spelledFor_;
     mutable QHash<QString, QString> spelling_;

@@ -10,6 +10,7 @@
 
 #include "common/ErrObject.h"
 #include "suite/PostgresAddress.h"
+#include "suite/PostgresConnection.h"
 #include "suite/SqlErrors.h"
 
 namespace ScaleBenchServer {
@@ -20,23 +21,13 @@ const QString kMaintenance = QStringLiteral("bench-maintenance");
 const QString kRaw = QStringLiteral("bench-raw");
 
 QSqlDatabase connectTo(const QString& connection, const PostgresAddress& address) {
-    QSqlDatabase db = QSqlDatabase::contains(connection)
-                          ? QSqlDatabase::database(connection, false)
-                          : QSqlDatabase::addDatabase(QStringLiteral("QPSQL"), connection);
-    db.close();
-    db.setHostName(address.host);
-    if (address.port != 0) {
-        db.setPort(address.port);
-    }
-    db.setUserName(address.user);
-    db.setDatabaseName(address.database);
-    db.setConnectOptions(address.options.join(u';'));
-    if (!db.open()) {
+    try {
+        return PostgresConnection::open(connection, address, {QStringLiteral("autojobverw-bench")});
+    } catch (const RaisedError& e) {
         throw SqlErrors::raised(ErrNumber::Database,
                                 QStringLiteral("Keine Verbindung zu %1: %2")
-                                    .arg(address.database, db.lastError().text()));
+                                    .arg(address.database, e.err().Description));
     }
-    return db;
 }
 
 QSqlDatabase maintenance() {
@@ -46,10 +37,7 @@ QSqlDatabase maintenance() {
             return db;
         }
     }
-    QSqlDatabase db =
-        connectTo(kMaintenance, PostgresAddress::parse(address(QStringLiteral("postgres"))));
-    QSqlQuery(db).exec(QStringLiteral("SET client_min_messages = warning"));
-    return db;
+    return connectTo(kMaintenance, PostgresAddress::parse(address(QStringLiteral("postgres"))));
 }
 
 QSqlQuery run(const QSqlDatabase& db, const QString& sql) {
@@ -92,7 +80,7 @@ qint64 readAll(QSqlQuery& query) {
 }  // namespace
 
 QString address(const QString& database) {
-    return QStringLiteral("postgresql:///") + database;
+    return PostgresConnection::addressOf(database);
 }
 
 QString describe() {

@@ -9,6 +9,7 @@
 #include <QTemporaryDir>
 
 #include "suite/Database.h"
+#include "suite/PostgresConnection.h"
 #include "tests/postgresql/ServerDatabase.h"
 
 // A database of its own on the PostgreSQL test server (ServerDatabase.h), with the demo's staff,
@@ -39,7 +40,7 @@ class ServerTestDatabase {
     ServerTestDatabase(const ServerTestDatabase&) = delete;
     ServerTestDatabase& operator=(const ServerTestDatabase&) = delete;
 
-    QString address() const { return QStringLiteral("postgresql:///") + server_.name(); }
+    QString address() const { return PostgresConnection::addressOf(server_.name()); }
     // The SQLite file with the same jobs and schedules, nothing else written to it.
     QString sqlitePath() const { return dir_.filePath(QStringLiteral("demo.sqlite")); }
 

@@ -7,6 +7,7 @@
 #include "agent/JobAgentSimulator.h"
 #include "agent/PostgresAgentWriter.h"
 #include "common/ErrObject.h"
+#include "suite/PostgresConnection.h"
 #include "tests/agent_postgresql/ServerTestDatabase.h"
 
 // The agent simulator on a PostgreSQL server writes what it writes on SQLite, in the same
@@ -184,9 +185,9 @@ TEST_F(AgentOnServer, ALiveRunIsOneTransactionAtTheMomentNow) {
     // The server drops the agent's connection: that run is reported, the next one is written.
     {
         QSqlDatabase admin =
-            QSqlDatabase::addDatabase(QStringLiteral("QPSQL"), QStringLiteral("agent_admin"));
-        admin.setDatabaseName(QStringLiteral("postgres"));
-        ASSERT_TRUE(admin.open());
+            PostgresConnection::open(QStringLiteral("agent_admin"),
+                                     PostgresConnection::addressOf(QStringLiteral("postgres")),
+                                     {QStringLiteral("autojobverw-test")});
         EXPECT_TRUE(QSqlQuery(admin).exec(
             QStringLiteral("SELECT pg_terminate_backend(pid) FROM pg_stat_activity WHERE datname "
                            "= '%1' AND application_name = 'autojobverw'")

@@ -70,9 +70,12 @@ TEST(QtFrmEigenschaften, ClicksAndTypingRaiseTheWindowsEvents) {
     QtEditor e;
     e.showPanels({QStringLiteral("fraImport"), QStringLiteral("FraTxtImport"),
                   QStringLiteral("fraBuchungen")});
-    QTest::mouseClick(e.widget("cmdCommandButton", 7), Qt::LeftButton);
-    QTest::mouseClick(e.widget("cmdCommandButton", 8), Qt::LeftButton);
-    QTest::mouseClick(e.widget("cmdOptFileName", 0), Qt::LeftButton);
+    QTest::mouseClick(e.widget("cmdCommandButton", frmEigenschaften::Cmd::Uebernehmen),
+                      Qt::LeftButton);
+    QTest::mouseClick(e.widget("cmdCommandButton", frmEigenschaften::Cmd::Logverzeichnis),
+                      Qt::LeftButton);
+    QTest::mouseClick(e.widget("cmdOptFileName", frmEigenschaften::OptDatei::Skript),
+                      Qt::LeftButton);
     e.qt->get<HeadlessControl>(QStringLiteral("tbrMain"))
         .userTool(QStringLiteral("barMain"), QStringLiteral("save"));
     QWidget* check = e.widget("chkFremdFormat");
@@ -83,12 +86,12 @@ TEST(QtFrmEigenschaften, ClicksAndTypingRaiseTheWindowsEvents) {
 
     auto* name = qobject_cast<QLineEdit*>(e.qt->view(QStringLiteral("txtTextBox"), 0)->keyTarget());
     ASSERT_NE(name, nullptr);
-    e.form->txtTextBox(0).SetFocus();
+    e.form->txtTextBox(frmEigenschaften::Txt::Name).SetFocus();
     QTest::keyClicks(name, QStringLiteral("a"));
     EXPECT_TRUE(e.events.contains("Geaendert"));
     EXPECT_TRUE(e.events.contains("ImportfileChanged"));
     e.events.clear();
-    e.form->txtTextBox(3).setText(QStringLiteral("D:\\Daten"));
+    e.form->txtTextBox(frmEigenschaften::Txt::Importdaten).setText(QStringLiteral("D:\\Daten"));
     EXPECT_EQ(e.events, QStringList{"ImportfileChanged"});
     e.events.clear();
 
@@ -100,9 +103,10 @@ TEST(QtFrmEigenschaften, ClicksAndTypingRaiseTheWindowsEvents) {
 // types, and the schedules.
 TEST(QtFrmEigenschaften, Pictures) {
     QtEditor e;
-    e.form->cboComboBox(0).AddItem(4, QStringLiteral("Buchungen"));
-    e.form->cboComboBox(0).setKey(4);
-    e.form->lblLabel(0).setCaption(QStringLiteral("Aktuelles Rechnerdatum: 22.11.2026 10:00:00"));
+    e.form->cboComboBox(frmEigenschaften::Cbo::Auftragsart).AddItem(4, QStringLiteral("Buchungen"));
+    e.form->cboComboBox(frmEigenschaften::Cbo::Auftragsart).setKey(4);
+    e.form->lblLabel(frmEigenschaften::Lbl::RechnerDatum)
+        .setCaption(QStringLiteral("Aktuelles Rechnerdatum: 22.11.2026 10:00:00"));
     e.form->lblLetzteAenderung().setCaption(QStringLiteral("Letzte Änderung: Keine Angaben"));
     e.showPanels({QStringLiteral("fraImport"), QStringLiteral("fraBuchungen")});
     e.qt->shot(QStringLiteral("/tmp/frmEigenschaften_buchungen.png"));
@@ -113,8 +117,8 @@ TEST(QtFrmEigenschaften, Pictures) {
     e.showPanels({QStringLiteral("fraImport"), QStringLiteral("fraScandokumente"),
                   QStringLiteral("fraNivora")});
     e.qt->shot(QStringLiteral("/tmp/frmEigenschaften_scan_nivora.png"));
-    e.form->tabControl().setTabEnabled(1, true);
-    e.form->tabControl().setTab(1);
+    e.form->tabControl().setTabEnabled(frmEigenschaften::Tab::Zeitplaene, true);
+    e.form->tabControl().setTab(frmEigenschaften::Tab::Zeitplaene);
     QApplication::processEvents();
     e.qt->shot(QStringLiteral("/tmp/frmEigenschaften_zeitplaene.png"));
 }

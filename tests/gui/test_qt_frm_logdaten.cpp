@@ -57,8 +57,8 @@ TEST(QtFrmLogDatenDel, EveryControlHasItsCaptionAndTheButtonsRaiseTheirIndex) {
     f.form->evAktion = [&](int i) { f.events << QStringLiteral("Aktion %1").arg(i); };
     f.show();
     qt_test::expectDeclaredControlsShown(*f.qt, frmLogDatenDel::declaration(), false);
-    QTest::mouseClick(f.widget("cmdAktion", 0), Qt::LeftButton);
-    QTest::mouseClick(f.widget("cmdAktion", 1), Qt::LeftButton);
+    QTest::mouseClick(f.widget("cmdAktion", frmLogDatenDel::Aktion::Ok), Qt::LeftButton);
+    QTest::mouseClick(f.widget("cmdAktion", frmLogDatenDel::Aktion::Abbrechen), Qt::LeftButton);
     EXPECT_EQ(f.events, (QStringList{"Aktion 0", "Aktion 1"}));
 }
 

@@ -66,13 +66,15 @@ TEST(QtFrmZeitIntervall, OnlyTheChosenFrequencyFrameShowsInTheSharedPlace) {
 
 TEST(QtFrmZeitIntervall, ClicksRaiseTheWindowsEvents) {
     QtDialog d;
-    QTest::mouseClick(d.widget("optHaeufigkeit", 0), Qt::LeftButton);
-    QTest::mouseClick(d.widget("optHaeufigkeit", 4), Qt::LeftButton);
-    QTest::mouseClick(d.widget("optEnddatum", 1), Qt::LeftButton);
-    QTest::mouseClick(d.widget("cmdCommandButton", 0), Qt::LeftButton);
+    QTest::mouseClick(d.widget("optHaeufigkeit", frmZeitIntervall::Haeufigkeit::Taeglich),
+                      Qt::LeftButton);
+    QTest::mouseClick(d.widget("optHaeufigkeit", frmZeitIntervall::Haeufigkeit::Jede),
+                      Qt::LeftButton);
+    QTest::mouseClick(d.widget("optEnddatum", frmZeitIntervall::Enddatum::Ohne), Qt::LeftButton);
+    QTest::mouseClick(d.widget("cmdCommandButton", frmZeitIntervall::Cmd::Ok), Qt::LeftButton);
     EXPECT_EQ(d.events, (QStringList{"Haeufigkeit 0", "Haeufigkeit 4", "Enddatum 1", "Button 0"}));
-    EXPECT_TRUE(d.form->optHaeufigkeit(0).Value());
-    EXPECT_TRUE(d.form->optHaeufigkeit(4).Value());
+    EXPECT_TRUE(d.form->optHaeufigkeit(frmZeitIntervall::Haeufigkeit::Taeglich).Value());
+    EXPECT_TRUE(d.form->optHaeufigkeit(frmZeitIntervall::Haeufigkeit::Jede).Value());
 }
 
 }  // namespace

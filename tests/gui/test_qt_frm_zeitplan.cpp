@@ -46,14 +46,14 @@ TEST(QtFrmZeitplan, EveryControlHasItsWidgetAndCaption) {
 
 TEST(QtFrmZeitplan, ClicksAndTheHelpKeyRaiseTheWindowsEvents) {
     QtSchedule s;
-    QTest::mouseClick(s.widget("optOption", 2), Qt::LeftButton, {},
-                      QPoint(8, s.widget("optOption", 2)->height() / 2));
-    s.form->optOption(3).setValue(true);
-    QTest::mouseClick(s.widget("cmdCommandButton", 0), Qt::LeftButton);
-    QTest::mouseClick(s.widget("cmdCommandButton", 1), Qt::LeftButton);
+    QTest::mouseClick(s.widget("optOption", frmZeitplan::Opt::Einmal), Qt::LeftButton, {},
+                      QPoint(8, s.widget("optOption", frmZeitplan::Opt::Einmal)->height() / 2));
+    s.form->optOption(frmZeitplan::Opt::Wiederholt).setValue(true);
+    QTest::mouseClick(s.widget("cmdCommandButton", frmZeitplan::Cmd::Ok), Qt::LeftButton);
+    QTest::mouseClick(s.widget("cmdCommandButton", frmZeitplan::Cmd::Abbrechen), Qt::LeftButton);
     // The window sees the key before the focused name box does.
     QWidget* name = s.qt->view(QStringLiteral("txtTextBox"), 0)->keyTarget();
-    s.form->txtTextBox(0).SetFocus();
+    s.form->txtTextBox(frmZeitplan::Txt::Name).SetFocus();
     QTest::keyClick(name, Qt::Key_F1);
     QTest::keyClick(name, Qt::Key_F1, Qt::ShiftModifier);
     EXPECT_EQ(s.events, (QStringList{"Option 2", "Option 3", "Button 0", "Button 1", "Hilfe"}));

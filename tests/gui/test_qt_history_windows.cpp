@@ -93,11 +93,11 @@ TEST(QtHistoryWindows, LogListDoubleClickActsAsOpenOnlyWhenItCan) {
     grid.setCols(4);
     grid.AddItem("x.Log\t1 KB\t\t");
     auto& qtGrid = dynamic_cast<QtGrid&>(grid);
-    s.form->cmdCommandButton(1).setEnabled(false);
+    s.form->cmdCommandButton(frmBuchLog::Cmd::Oeffnen).setEnabled(false);
     qtGrid.userGridClick(1, 0, true);
-    s.form->cmdCommandButton(1).setEnabled(true);
+    s.form->cmdCommandButton(frmBuchLog::Cmd::Oeffnen).setEnabled(true);
     qtGrid.userGridClick(1, 0, true);
-    QTest::mouseClick(s.widget("cmdCommandButton", 2), Qt::LeftButton);
+    QTest::mouseClick(s.widget("cmdCommandButton", frmBuchLog::Cmd::Explorer), Qt::LeftButton);
     EXPECT_EQ(s.events, (QStringList{"1", "2"}));
     EXPECT_TRUE(s.form->txtTextBox().Locked());
 }

@@ -111,8 +111,9 @@ TEST(RunHistory, StatementOfAllResultsHasNoConditionOnTheResult) {
     ASSERT_EQ(w.statements->size(), 1);
     EXPECT_EQ(w.statements->at(0),
               kAbfrage + " AND datediff(Week, tAutoJobVerlauf.LetzteAusfuehrung, getdate()) <= 2");
-    EXPECT_EQ(HistoryTestAccess::fenster(w.admin()).lblLabel(1).Caption(),
-              "Ausführungen: 1 Element (Zeitraum: 2 Woche(n), Typ: Alle)");
+    EXPECT_EQ(
+        HistoryTestAccess::fenster(w.admin()).lblLabel(frmVerlauf::Lbl::Ausfuehrungen).Caption(),
+        "Ausführungen: 1 Element (Zeitraum: 2 Woche(n), Typ: Alle)");
 }
 
 TEST(RunHistory, StatementOfOneResultAndOtherUnits) {
@@ -124,8 +125,9 @@ TEST(RunHistory, StatementOfOneResultAndOtherUnits) {
               kAbfrage +
                   " AND datediff(Month, tAutoJobVerlauf.LetzteAusfuehrung, getdate()) <= 12"
                   " AND tAutoJobVerlauf.Erfolgreich = 0");
-    EXPECT_EQ(HistoryTestAccess::fenster(w.admin()).lblLabel(1).Caption(),
-              "Ausführungen: 1 Element (Zeitraum: 12 Monat(e), Typ: fehlerhaft)");
+    EXPECT_EQ(
+        HistoryTestAccess::fenster(w.admin()).lblLabel(frmVerlauf::Lbl::Ausfuehrungen).Caption(),
+        "Ausführungen: 1 Element (Zeitraum: 12 Monat(e), Typ: fehlerhaft)");
 }
 
 TEST(RunHistory, DeleteTakesEverySchedulesRunsAndRefills) {
@@ -139,8 +141,9 @@ TEST(RunHistory, DeleteTakesEverySchedulesRunsAndRefills) {
               "idAutoJob = 1)");
     EXPECT_TRUE(w.statements->at(1).startsWith(kAbfrage));
     EXPECT_EQ(w.scalar("SELECT count(*) FROM tAutoJobVerlauf"), "0");
-    EXPECT_EQ(HistoryTestAccess::fenster(w.admin()).lblLabel(1).Caption(),
-              "Ausführungen: 0 Elemente (Zeitraum: 1 Tag(e), Typ: erfolgreich)");
+    EXPECT_EQ(
+        HistoryTestAccess::fenster(w.admin()).lblLabel(frmVerlauf::Lbl::Ausfuehrungen).Caption(),
+        "Ausführungen: 0 Elemente (Zeitraum: 1 Tag(e), Typ: erfolgreich)");
 }
 
 TEST(RunHistory, UnitWordsForTheStatementAndForPeople) {

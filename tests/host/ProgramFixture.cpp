@@ -9,6 +9,9 @@
 #include <QRegularExpression>
 #include <QTest>
 
+#include "ui/windows/frmEigenschaften.h"
+#include "ui/windows/frmLogDatenDel.h"
+
 void ProgramFixture::SetUp() {
     ASSERT_TRUE(dir_.isValid());
     config_ = std::make_shared<SuiteConfig>(SuiteConfig::defaults());
@@ -70,7 +73,8 @@ void ProgramFixture::saveNewJobFromTheMenu(const QString& name) {
     bool done = false;
     real_input::whenShown(QStringLiteral("frmEigenschaften"), [&](QWidget* w) {
         using real_input::find;
-        real_input::typeOver(find(w, QStringLiteral("txtTextBox(0)")), name);
+        real_input::typeOver(find(w, QStringLiteral("txtTextBox"), frmEigenschaften::Txt::Name),
+                             name);
         // The first client and the first staff member, picked with the arrow key.
         for (const char* selection : {"ctlMandant", "ctlMitarbeiterBuchProp"}) {
             QWidget* combo = find(w, QString::fromLatin1(selection));
@@ -78,10 +82,12 @@ void ProgramFixture::saveNewJobFromTheMenu(const QString& name) {
             QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
             QTest::keyClick(combo, Qt::Key_Down);
         }
-        real_input::typeOver(find(w, QStringLiteral("txtTextBox(3)")), importDir);
-        real_input::typeOver(find(w, QStringLiteral("txtTextBox(4)")), logDir);
+        real_input::typeOver(
+            find(w, QStringLiteral("txtTextBox"), frmEigenschaften::Txt::Importdaten), importDir);
+        real_input::typeOver(find(w, QStringLiteral("txtTextBox"), frmEigenschaften::Txt::Logfiles),
+                             logDir);
         boxes_->answerNext(QStringLiteral("Nein"));
-        real_input::click(find(w, QStringLiteral("cmdCommandButton(0)")));
+        real_input::click(find(w, QStringLiteral("cmdCommandButton"), frmEigenschaften::Cmd::Ok));
         done = true;
     });
     chooseMenu(QStringLiteral("Bearbeiten"), QStringLiteral("Neu"));
@@ -93,7 +99,8 @@ void ProgramFixture::deleteTodaysServiceLog() {
     real_input::whenShown(QStringLiteral("frmLogDatenDel"), [&](QWidget* w) {
         deleting = true;
         boxes_->answerNext(QStringLiteral("Ja"));
-        real_input::click(real_input::find(w, QStringLiteral("cmdAktion(0)")));
+        real_input::click(
+            real_input::find(w, QStringLiteral("cmdAktion"), frmLogDatenDel::Aktion::Ok));
     });
     chooseMenu(QStringLiteral("Bearbeiten"), QStringLiteral("Logdaten Dienst löschen"));
     ASSERT_TRUE(real_input::waitFor(

@@ -58,6 +58,10 @@ QWidget* find(QWidget* window, const QString& name) {
     return w;
 }
 
+QWidget* find(QWidget* window, const QString& array, int index) {
+    return find(window, QStringLiteral("%1(%2)").arg(array).arg(index));
+}
+
 void click(QWidget* widget) {
     if (!widget) {
         return;

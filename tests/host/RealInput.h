@@ -20,6 +20,12 @@ template <class T>
 T* findIn(QWidget* window, const QString& name) {
     return qobject_cast<T*>(find(window, name));
 }
+// A control of an array by its index, named as the Qt kit names it: "cmdCommandButton(7)".
+QWidget* find(QWidget* window, const QString& array, int index);
+template <class T>
+T* findIn(QWidget* window, const QString& array, int index) {
+    return qobject_cast<T*>(find(window, array, index));
+}
 
 void click(QWidget* widget);
 // Clicks into a text box, selects what it holds and types the text over it.

@@ -13,6 +13,7 @@
 
 #include "suite/SqliteFileLocks.h"
 #include "tests/host/ProgramFixture.h"
+#include "ui/windows/frmEigenschaften.h"
 
 using namespace real_input;
 
@@ -97,13 +98,16 @@ TEST_F(DatabaseFileLocksTest, EveryFileAndDirectoryDialogListsTheDatabaseFolderA
     ASSERT_EQ(locks(), SqliteFileLocks::State::Held);
     bool done = false;
     whenShown(QStringLiteral("frmEigenschaften"), [&](QWidget* w) {
-        typeOver(find(w, QStringLiteral("txtTextBox(3)")), root());
+        typeOver(find(w, QStringLiteral("txtTextBox"), frmEigenschaften::Txt::Importdaten), root());
         // The import directory's "..." and the mapping file's "...", both starting there.
-        browseAndCancel(QStringLiteral("dlgVerzeichnis"),
-                        [&] { click(find(w, QStringLiteral("cmdCommandButton(2)"))); });
-        browseAndCancel(QStringLiteral("dlgDatei"),
-                        [&] { click(find(w, QStringLiteral("cmdCommandButton(10)"))); });
-        click(find(w, QStringLiteral("cmdCommandButton(1)")));  // Abbrechen
+        browseAndCancel(QStringLiteral("dlgVerzeichnis"), [&] {
+            click(find(w, QStringLiteral("cmdCommandButton"),
+                       frmEigenschaften::Cmd::Importverzeichnis));
+        });
+        browseAndCancel(QStringLiteral("dlgDatei"), [&] {
+            click(find(w, QStringLiteral("cmdCommandButton"), frmEigenschaften::Cmd::Mappingdatei));
+        });
+        click(find(w, QStringLiteral("cmdCommandButton"), frmEigenschaften::Cmd::Abbrechen));
         done = true;
     });
     openJob(kCsvJob);
@@ -170,8 +174,10 @@ TEST_F(DatabaseFileLocksTest, ASaveAfterTheLocksWereLostIsRefusedAndTheRepeatedS
     bool uebernehmenWhenLost = false;
     bool done = false;
     whenShown(QStringLiteral("frmEigenschaften"), [&](QWidget* w) {
-        auto* uebernehmen = findIn<QPushButton>(w, QStringLiteral("cmdCommandButton(7)"));
-        typeOver(find(w, QStringLiteral("txtTextBox(2)")), QStringLiteral("Nach der Sperre"));
+        auto* uebernehmen = findIn<QPushButton>(w, QStringLiteral("cmdCommandButton"),
+                                                frmEigenschaften::Cmd::Uebernehmen);
+        typeOver(find(w, QStringLiteral("txtTextBox"), frmEigenschaften::Txt::Beschreibung),
+                 QStringLiteral("Nach der Sperre"));
         {
             // A slip of some future code: the database file read beside SQLite.
             QFile file(databasePath());
@@ -185,7 +191,7 @@ TEST_F(DatabaseFileLocksTest, ASaveAfterTheLocksWereLostIsRefusedAndTheRepeatedS
         uebernehmenWhenLost = uebernehmen->isEnabled();
         EXPECT_EQ(locks(), SqliteFileLocks::State::Held);
         click(uebernehmen);
-        click(find(w, QStringLiteral("cmdCommandButton(1)")));
+        click(find(w, QStringLiteral("cmdCommandButton"), frmEigenschaften::Cmd::Abbrechen));
         done = true;
     });
     openJob(QStringLiteral("Lieferanten Autohaus Lindner"));
@@ -232,8 +238,9 @@ TEST_F(DatabaseFileLocksTest, TheAgentWritesWhileDialogsSavesAndDeletionsRunAndN
         const QString description = QStringLiteral("Runde %1 neben dem Dienst").arg(round);
         bool edited = false;
         whenShown(QStringLiteral("frmEigenschaften"), [&](QWidget* w) {
-            typeOver(find(w, QStringLiteral("txtTextBox(2)")), description);
-            click(find(w, QStringLiteral("cmdCommandButton(0)")));
+            typeOver(find(w, QStringLiteral("txtTextBox"), frmEigenschaften::Txt::Beschreibung),
+                     description);
+            click(find(w, QStringLiteral("cmdCommandButton"), frmEigenschaften::Cmd::Ok));
             edited = true;
         });
         openJob(jobs[round]);

@@ -5,6 +5,8 @@
 #include <QPushButton>
 
 #include "tests/host/ProgramFixture.h"
+#include "ui/windows/frmEigenschaften.h"
+#include "ui/windows/frmZeitplan.h"
 
 using namespace real_input;
 
@@ -46,19 +48,22 @@ TEST_F(DatabaseLockedTest, UebernehmenWhileLockedKeepsTheInputAndSucceedsLater) 
     QString storedWhileLocked;
     bool done = false;
     whenShown(QStringLiteral("frmEigenschaften"), [&](QWidget* w) {
-        auto* uebernehmen = findIn<QPushButton>(w, QStringLiteral("cmdCommandButton(7)"));
-        typeOver(find(w, QStringLiteral("txtTextBox(2)")), QStringLiteral("Neue Beschreibung"));
+        auto* uebernehmen = findIn<QPushButton>(w, QStringLiteral("cmdCommandButton"),
+                                                frmEigenschaften::Cmd::Uebernehmen);
+        typeOver(find(w, QStringLiteral("txtTextBox"), frmEigenschaften::Txt::Beschreibung),
+                 QStringLiteral("Neue Beschreibung"));
         ASSERT_TRUE(writer.lock());
         click(uebernehmen);
         waitFor([&] { return !boxes_->shown().isEmpty(); }, 3000);
         boxesWhileLocked = boxes_->shown();
         storedWhileLocked = scalar(stored);
-        textAfterFailure = shownText(find(w, QStringLiteral("txtTextBox(2)")));
+        textAfterFailure =
+            shownText(find(w, QStringLiteral("txtTextBox"), frmEigenschaften::Txt::Beschreibung));
         uebernehmenAfterFailure = uebernehmen->isEnabled();
 
         writer.release();
         click(uebernehmen);
-        click(find(w, QStringLiteral("cmdCommandButton(1)")));
+        click(find(w, QStringLiteral("cmdCommandButton"), frmEigenschaften::Cmd::Abbrechen));
         done = true;
     });
     doubleClickRow(list(), rowShowing(list(), QStringLiteral("Name"), kLindner));
@@ -84,20 +89,22 @@ TEST_F(DatabaseLockedTest, ScheduleOkWhileLockedKeepsTheDialogAndSucceedsLater) 
     QString nameAfterFailure;
     bool done = false;
     whenShown(QStringLiteral("frmEigenschaften"), [&](QWidget* w) {
-        clickTab(find(w, QStringLiteral("tabControl")), 1);
+        clickTab(find(w, QStringLiteral("tabControl")), frmEigenschaften::Tab::Zeitplaene);
         whenShown(QStringLiteral("frmZeitplan"), [&](QWidget* plan) {
-            typeOver(find(plan, QStringLiteral("txtTextBox(0)")), QStringLiteral("Nachts"));
+            typeOver(find(plan, QStringLiteral("txtTextBox"), frmZeitplan::Txt::Name),
+                     QStringLiteral("Nachts"));
             ASSERT_TRUE(writer.lock());
-            click(find(plan, QStringLiteral("cmdCommandButton(0)")));
+            click(find(plan, QStringLiteral("cmdCommandButton"), frmZeitplan::Cmd::Ok));
             waitFor([&] { return !boxes_->shown().isEmpty(); }, 3000);
             boxesWhileLocked = boxes_->shown();
             dialogAfterFailure = shownWindow(QStringLiteral("frmZeitplan")) != nullptr;
-            nameAfterFailure = shownText(find(plan, QStringLiteral("txtTextBox(0)")));
+            nameAfterFailure =
+                shownText(find(plan, QStringLiteral("txtTextBox"), frmZeitplan::Txt::Name));
             writer.release();
-            click(find(plan, QStringLiteral("cmdCommandButton(0)")));
+            click(find(plan, QStringLiteral("cmdCommandButton"), frmZeitplan::Cmd::Ok));
         });
-        click(find(w, QStringLiteral("cmdCommandButton(3)")));
-        click(find(w, QStringLiteral("cmdCommandButton(1)")));
+        click(find(w, QStringLiteral("cmdCommandButton"), frmEigenschaften::Cmd::ZeitplanNeu));
+        click(find(w, QStringLiteral("cmdCommandButton"), frmEigenschaften::Cmd::Abbrechen));
         done = true;
     });
     doubleClickRow(list(), rowShowing(list(), QStringLiteral("Name"), kLindner));

@@ -4,6 +4,7 @@
 #include <QPushButton>
 
 #include "tests/host/ProgramFixture.h"
+#include "ui/windows/frmEigenschaften.h"
 
 using namespace real_input;
 
@@ -18,8 +19,10 @@ TEST_F(DatabaseMovedTest, UebernehmenAfterTheFileWasMovedIsRefusedAndKeepsTheInp
     bool uebernehmenWhenMoved = false;
     bool done = false;
     whenShown(QStringLiteral("frmEigenschaften"), [&](QWidget* w) {
-        auto* uebernehmen = findIn<QPushButton>(w, QStringLiteral("cmdCommandButton(7)"));
-        typeOver(find(w, QStringLiteral("txtTextBox(2)")), QStringLiteral("Nach dem Umzug"));
+        auto* uebernehmen = findIn<QPushButton>(w, QStringLiteral("cmdCommandButton"),
+                                                frmEigenschaften::Cmd::Uebernehmen);
+        typeOver(find(w, QStringLiteral("txtTextBox"), frmEigenschaften::Txt::Beschreibung),
+                 QStringLiteral("Nach dem Umzug"));
         ASSERT_TRUE(QFile::rename(path, elsewhere));
         click(uebernehmen);
         waitFor([&] { return !boxes_->shown().isEmpty(); }, 3000);
@@ -27,7 +30,7 @@ TEST_F(DatabaseMovedTest, UebernehmenAfterTheFileWasMovedIsRefusedAndKeepsTheInp
         uebernehmenWhenMoved = uebernehmen->isEnabled();
         ASSERT_TRUE(QFile::rename(elsewhere, path));
         click(uebernehmen);
-        click(find(w, QStringLiteral("cmdCommandButton(1)")));
+        click(find(w, QStringLiteral("cmdCommandButton"), frmEigenschaften::Cmd::Abbrechen));
         done = true;
     });
     doubleClickRow(list(), rowShowing(list(), QStringLiteral("Name"),

@@ -10,6 +10,10 @@
 #include <QTimer>
 
 #include "tests/host/ProgramFixture.h"
+#include "ui/windows/frmEigenschaften.h"
+#include "ui/windows/frmVerlauf.h"
+#include "ui/windows/frmZeitIntervall.h"
+#include "ui/windows/frmZeitplan.h"
 
 using namespace real_input;
 
@@ -44,10 +48,11 @@ TEST_F(DesktopProgramTest, DoubleClickOpensTheJobAndUebernehmenStoresTheDescript
     bool done = false;
     whenShown(QStringLiteral("frmEigenschaften"), [&](QWidget* w) {
         caption = w->windowTitle();
-        typeOver(find(w, QStringLiteral("txtTextBox(2)")), QStringLiteral("Aus der Buchhaltung"));
-        click(find(w, QStringLiteral("cmdCommandButton(7)")));
+        typeOver(find(w, QStringLiteral("txtTextBox"), frmEigenschaften::Txt::Beschreibung),
+                 QStringLiteral("Aus der Buchhaltung"));
+        click(find(w, QStringLiteral("cmdCommandButton"), frmEigenschaften::Cmd::Uebernehmen));
         stored = scalar(QStringLiteral("SELECT Beschreibung FROM tAutoJobJob WHERE idAutoJob = 2"));
-        click(find(w, QStringLiteral("cmdCommandButton(1)")));
+        click(find(w, QStringLiteral("cmdCommandButton"), frmEigenschaften::Cmd::Abbrechen));
         done = true;
     });
     doubleClickRow(list(), row);
@@ -81,18 +86,20 @@ TEST_F(DesktopProgramTest, ScheduleCreatedThroughBothDialogs) {
     bool intervalShown = false;
     bool done = false;
     whenShown(QStringLiteral("frmEigenschaften"), [&](QWidget* w) {
-        clickTab(find(w, QStringLiteral("tabControl")), 1);
+        clickTab(find(w, QStringLiteral("tabControl")), frmEigenschaften::Tab::Zeitplaene);
         whenShown(QStringLiteral("frmZeitplan"), [&](QWidget* plan) {
-            typeOver(find(plan, QStringLiteral("txtTextBox(0)")), QStringLiteral("Nachts"));
+            typeOver(find(plan, QStringLiteral("txtTextBox"), frmZeitplan::Txt::Name),
+                     QStringLiteral("Nachts"));
             whenShown(QStringLiteral("frmZeitIntervall"), [&](QWidget* interval) {
                 intervalShown = true;
-                click(find(interval, QStringLiteral("cmdCommandButton(0)")));
+                click(
+                    find(interval, QStringLiteral("cmdCommandButton"), frmZeitIntervall::Cmd::Ok));
             });
-            click(find(plan, QStringLiteral("cmdCommandButton(2)")));
-            click(find(plan, QStringLiteral("cmdCommandButton(0)")));
+            click(find(plan, QStringLiteral("cmdCommandButton"), frmZeitplan::Cmd::Aendern));
+            click(find(plan, QStringLiteral("cmdCommandButton"), frmZeitplan::Cmd::Ok));
         });
-        click(find(w, QStringLiteral("cmdCommandButton(3)")));
-        click(find(w, QStringLiteral("cmdCommandButton(1)")));
+        click(find(w, QStringLiteral("cmdCommandButton"), frmEigenschaften::Cmd::ZeitplanNeu));
+        click(find(w, QStringLiteral("cmdCommandButton"), frmEigenschaften::Cmd::Abbrechen));
         done = true;
     });
     doubleClickRow(list(), rowShowing(list(), QStringLiteral("Name"), kLindner));
@@ -156,7 +163,7 @@ TEST_F(DesktopProgramTest, HostMenusAgreeWithTheListsToolsAndReachTheirCommands)
     QString caption;
     whenShown(QStringLiteral("frmEigenschaften"), [&](QWidget* w) {
         caption = w->windowTitle();
-        click(find(w, QStringLiteral("cmdCommandButton(1)")));
+        click(find(w, QStringLiteral("cmdCommandButton"), frmEigenschaften::Cmd::Abbrechen));
     });
     chooseMenu(QStringLiteral("Bearbeiten"), QStringLiteral("Bearbeiten"));
     ASSERT_TRUE(waitFor([&] { return !caption.isEmpty(); }));
@@ -169,7 +176,8 @@ TEST_F(DesktopProgramTest, HostMenusAgreeWithTheListsToolsAndReachTheirCommands)
     QString jobName;
     whenShown(QStringLiteral("frmVerlauf"), [&](QWidget* w) {
         history = w->windowTitle();
-        if (auto* name = qobject_cast<QLabel*>(find(w, QStringLiteral("lblLabel(0)")))) {
+        if (auto* name = qobject_cast<QLabel*>(
+                find(w, QStringLiteral("lblLabel"), frmVerlauf::Lbl::Auftragsname))) {
             jobName = name->text();
         }
         w->close();

@@ -7,6 +7,7 @@
 #include <QTest>
 
 #include "tests/host/ProgramFixture.h"
+#include "ui/windows/frmEigenschaften.h"
 
 using namespace real_input;
 
@@ -27,8 +28,9 @@ TEST_F(DiskFullTest, UebernehmenOnAFullDatabaseKeepsTheInputAndWritesNothing) {
     bool uebernehmenWhenFull = false;
     bool done = false;
     whenShown(QStringLiteral("frmEigenschaften"), [&](QWidget* w) {
-        auto* uebernehmen = findIn<QPushButton>(w, QStringLiteral("cmdCommandButton(7)"));
-        auto* box = find(w, QStringLiteral("txtTextBox(2)"));
+        auto* uebernehmen = findIn<QPushButton>(w, QStringLiteral("cmdCommandButton"),
+                                                frmEigenschaften::Cmd::Uebernehmen);
+        auto* box = find(w, QStringLiteral("txtTextBox"), frmEigenschaften::Txt::Beschreibung);
         QWidget* editor =
             box->findChild<QPlainTextEdit*>() ? box->findChild<QPlainTextEdit*>()->viewport() : box;
         QTest::mouseClick(editor, Qt::LeftButton);
@@ -46,7 +48,7 @@ TEST_F(DiskFullTest, UebernehmenOnAFullDatabaseKeepsTheInputAndWritesNothing) {
 
         program_->database().runScript(QStringLiteral("PRAGMA max_page_count = 1073741823"));
         click(uebernehmen);
-        click(find(w, QStringLiteral("cmdCommandButton(1)")));
+        click(find(w, QStringLiteral("cmdCommandButton"), frmEigenschaften::Cmd::Abbrechen));
         done = true;
     });
     doubleClickRow(list(), rowShowing(list(), QStringLiteral("Name"),

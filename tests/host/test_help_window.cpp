@@ -3,6 +3,7 @@
 #include <QTextBrowser>
 
 #include "tests/host/ProgramFixture.h"
+#include "ui/windows/frmEigenschaften.h"
 
 using namespace real_input;
 
@@ -50,11 +51,11 @@ TEST_F(HelpWindowTest, F1InThePropertiesWindowShowsTheGeneralPageAndTheSchedules
         pressF1(w);
         waitFor([] { return shownWindow(QStringLiteral("frmHilfe")) != nullptr; });
         general = helpText();
-        clickTab(find(w, QStringLiteral("tabControl")), 1);
+        clickTab(find(w, QStringLiteral("tabControl")), frmEigenschaften::Tab::Zeitplaene);
         pressF1(w);
         schedules = helpText();
         shownWindow(QStringLiteral("frmHilfe"))->close();
-        click(find(w, QStringLiteral("cmdCommandButton(1)")));
+        click(find(w, QStringLiteral("cmdCommandButton"), frmEigenschaften::Cmd::Abbrechen));
         done = true;
     });
     doubleClickRow(list(), row);

@@ -9,6 +9,7 @@
 #include "common/Clock.h"
 #include "common/ErrObject.h"
 #include "tests/host/ProgramFixture.h"
+#include "ui/windows/frmVerlauf.h"
 
 using namespace real_input;
 
@@ -58,7 +59,8 @@ TEST_F(LiveAgentTest, HistoryLogDataAndDeletionWhileTheAgentWrites) {
         clickRow(list(), 1 + rounds % 3);
         QString counter;
         whenShown(QStringLiteral("frmVerlauf"), [&](QWidget* w) {
-            if (auto* label = qobject_cast<QLabel*>(find(w, QStringLiteral("lblLabel(1)")))) {
+            if (auto* label = qobject_cast<QLabel*>(
+                    find(w, QStringLiteral("lblLabel"), frmVerlauf::Lbl::Ausfuehrungen))) {
                 counter = label->text();
             }
             w->close();

@@ -7,6 +7,8 @@
 #include <QTest>
 
 #include "tests/host/ProgramFixture.h"
+#include "ui/windows/frmEigenschaften.h"
+#include "ui/windows/frmZeitplan.h"
 
 using namespace real_input;
 
@@ -61,9 +63,10 @@ TEST_F(TextFieldsRoundTripTest, JobNameAndDescriptionAreStoredAndShownAsTyped) {
     QString shownAfterReopen;
     bool done = false;
     whenShown(QStringLiteral("frmEigenschaften"), [&](QWidget* w) {
-        pasteOver(find(w, QStringLiteral("txtTextBox(0)")), name);
-        pasteOver(find(w, QStringLiteral("txtTextBox(2)")), description);
-        click(find(w, QStringLiteral("cmdCommandButton(0)")));
+        pasteOver(find(w, QStringLiteral("txtTextBox"), frmEigenschaften::Txt::Name), name);
+        pasteOver(find(w, QStringLiteral("txtTextBox"), frmEigenschaften::Txt::Beschreibung),
+                  description);
+        click(find(w, QStringLiteral("cmdCommandButton"), frmEigenschaften::Cmd::Ok));
         done = true;
     });
     doubleClickRow(list(), rowShowing(list(), QStringLiteral("Name"),
@@ -79,8 +82,9 @@ TEST_F(TextFieldsRoundTripTest, JobNameAndDescriptionAreStoredAndShownAsTyped) {
     // Opened again, the editor shows what was stored.
     done = false;
     whenShown(QStringLiteral("frmEigenschaften"), [&](QWidget* w) {
-        shownAfterReopen = shownText(find(w, QStringLiteral("txtTextBox(2)")));
-        click(find(w, QStringLiteral("cmdCommandButton(1)")));
+        shownAfterReopen =
+            shownText(find(w, QStringLiteral("txtTextBox"), frmEigenschaften::Txt::Beschreibung));
+        click(find(w, QStringLiteral("cmdCommandButton"), frmEigenschaften::Cmd::Abbrechen));
         done = true;
     });
     const int row = rowShowing(list(), QStringLiteral("Name"), name);
@@ -94,13 +98,13 @@ TEST_F(TextFieldsRoundTripTest, ScheduleNameIsStoredAsTyped) {
     const QString name = longText();
     bool done = false;
     whenShown(QStringLiteral("frmEigenschaften"), [&](QWidget* w) {
-        clickTab(find(w, QStringLiteral("tabControl")), 1);
+        clickTab(find(w, QStringLiteral("tabControl")), frmEigenschaften::Tab::Zeitplaene);
         whenShown(QStringLiteral("frmZeitplan"), [&](QWidget* plan) {
-            pasteOver(find(plan, QStringLiteral("txtTextBox(0)")), name);
-            click(find(plan, QStringLiteral("cmdCommandButton(0)")));
+            pasteOver(find(plan, QStringLiteral("txtTextBox"), frmZeitplan::Txt::Name), name);
+            click(find(plan, QStringLiteral("cmdCommandButton"), frmZeitplan::Cmd::Ok));
         });
-        click(find(w, QStringLiteral("cmdCommandButton(3)")));
-        click(find(w, QStringLiteral("cmdCommandButton(1)")));
+        click(find(w, QStringLiteral("cmdCommandButton"), frmEigenschaften::Cmd::ZeitplanNeu));
+        click(find(w, QStringLiteral("cmdCommandButton"), frmEigenschaften::Cmd::Abbrechen));
         done = true;
     });
     doubleClickRow(list(), rowShowing(list(), QStringLiteral("Name"),

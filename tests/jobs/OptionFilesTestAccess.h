@@ -106,8 +106,12 @@ class EditorWorld {
     frmEigenschaften& frm() { return *editor(); }
     std::shared_ptr<frmEigenschaften>& editor() { return A::editor(*admin); }
     // Whether the job counts as changed: the editor's "Übernehmen" button is on.
-    bool geaendert() { return frm().cmdCommandButton(7).Enabled(); }
-    void unveraendert() { frm().cmdCommandButton(7).setEnabled(false); }
+    bool geaendert() {
+        return frm().cmdCommandButton(frmEigenschaften::Cmd::Uebernehmen).Enabled();
+    }
+    void unveraendert() {
+        frm().cmdCommandButton(frmEigenschaften::Cmd::Uebernehmen).setEnabled(false);
+    }
 
     HeadlessControl& control(WindowContract& form, const char* name, int index = -1) {
         return *dynamic_cast<HeadlessWindow&>(form.window())

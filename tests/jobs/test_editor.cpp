@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/app/AppTestWorld.h"
+#include "ui/windows/frmEigenschaften.h"
 
 class EditorTestAccess {
   public:
@@ -71,10 +72,12 @@ TEST_F(Editor, TheClockLineShowsTheClockAtEachTick) {
     dreiJobs();
     oeffnen(1);
     fenster()->tickTimers();
-    EXPECT_EQ(form()->lblLabel(0).Caption(), "Aktuelles Rechnerdatum: 22.11.2026 10:00:00");
+    EXPECT_EQ(form()->lblLabel(frmEigenschaften::Lbl::RechnerDatum).Caption(),
+              "Aktuelles Rechnerdatum: 22.11.2026 10:00:00");
     w.clock->set(QDateTime(QDate(2026, 11, 23), QTime(7, 5, 9)));
     fenster()->tickTimers();
-    EXPECT_EQ(form()->lblLabel(0).Caption(), "Aktuelles Rechnerdatum: 23.11.2026 07:05:09");
+    EXPECT_EQ(form()->lblLabel(frmEigenschaften::Lbl::RechnerDatum).Caption(),
+              "Aktuelles Rechnerdatum: 23.11.2026 07:05:09");
 }
 
 TEST_F(Editor, StepsBeyondEitherEndAreRefusedWithAMessage) {
@@ -99,8 +102,8 @@ TEST_F(Editor, StepsBeyondEitherEndAreRefusedWithAMessage) {
 TEST_F(Editor, SavingOnTheWayOutThatFailsTheChecksKeepsTheJobAndTheList) {
     dreiJobs();
     oeffnen(1);
-    form()->txtTextBox(0).SetFocus();
-    dynamic_cast<UserActions&>(form()->txtTextBox(0)).userType(QString());
+    form()->txtTextBox(frmEigenschaften::Txt::Name).SetFocus();
+    dynamic_cast<UserActions&>(form()->txtTextBox(frmEigenschaften::Txt::Name)).userType(QString());
     EXPECT_TRUE(speichernAn());
     w.ui->answers = {6, 1};
     AdminJobTestAccess::eigenschaftenTool(admin(), QStringLiteral("next"));
@@ -110,7 +113,7 @@ TEST_F(Editor, SavingOnTheWayOutThatFailsTheChecksKeepsTheJobAndTheList) {
     EXPECT_EQ(w.ui->boxes[0].flags, 35);
     EXPECT_EQ(w.ui->boxes[1].text, "Bitte geben Sie einen Namen für den Auftrag an.");
     EXPECT_EQ(AdminJobTestAccess::jobId(admin()), 1);
-    EXPECT_EQ(form()->txtTextBox(0).Text(), "");
+    EXPECT_EQ(form()->txtTextBox(frmEigenschaften::Txt::Name).Text(), "");
     EXPECT_TRUE(speichernAn());
     // The step had already moved the list to its target; it stays there.
     EXPECT_EQ(EditorTestAccess::jobZeile(admin()), 2);
@@ -121,12 +124,13 @@ TEST_F(Editor, SavingOnTheWayOutThatFailsTheChecksKeepsTheJobAndTheList) {
 TEST_F(Editor, ACancelledStepLeavesTheListOnItsTargetSoTheNextStepCountsFromThere) {
     dreiJobs();
     oeffnen(2);
-    form()->txtTextBox(2).SetFocus();
-    dynamic_cast<UserActions&>(form()->txtTextBox(2)).userType(QStringLiteral("neu"));
+    form()->txtTextBox(frmEigenschaften::Txt::Beschreibung).SetFocus();
+    dynamic_cast<UserActions&>(form()->txtTextBox(frmEigenschaften::Txt::Beschreibung))
+        .userType(QStringLiteral("neu"));
     w.ui->answers = {2, 1, 1};
     EditorTestAccess::paketNav(admin(), QStringLiteral("previous"));
     EXPECT_EQ(form()->window().Caption(), "B - Bearbeiten ");
-    EXPECT_EQ(form()->txtTextBox(2).Text(), "neu");
+    EXPECT_EQ(form()->txtTextBox(frmEigenschaften::Txt::Beschreibung).Text(), "neu");
     EXPECT_EQ(EditorTestAccess::jobZeile(admin()), 1);
     EXPECT_EQ(w.browser().Auswahl().SelRow(0), 1);
     // From the first row there is nothing before.
@@ -144,9 +148,9 @@ TEST_F(Editor, ACancelledStepLeavesTheListOnItsTargetSoTheNextStepCountsFromTher
 TEST_F(Editor, OkThatFailsTheChecksKeepsTheWindowOpen) {
     dreiJobs();
     oeffnen(1);
-    form()->txtTextBox(0).setText(QString());
+    form()->txtTextBox(frmEigenschaften::Txt::Name).setText(QString());
     w.ui->answers = {1};
-    dynamic_cast<UserActions&>(form()->cmdCommandButton(0)).userClick();
+    dynamic_cast<UserActions&>(form()->cmdCommandButton(frmEigenschaften::Cmd::Ok)).userClick();
     ASSERT_TRUE(form());
     EXPECT_EQ(w.ui->boxes.back().text, "Bitte geben Sie einen Namen für den Auftrag an.");
     EXPECT_EQ(w.scalar(QStringLiteral("SELECT Name FROM tAutoJobJob WHERE idAutoJob = 1")), "A");
@@ -157,11 +161,11 @@ TEST_F(Editor, ABookingsJobStoresItsFlagsAndTheForeignFormatOnlyWhenTicked) {
     w.tool(QStringLiteral("Neu"));
     ASSERT_TRUE(form());
     frmEigenschaften& f = *form();
-    f.cboComboBox(0).setKey(4);
+    f.cboComboBox(frmEigenschaften::Cbo::Auftragsart).setKey(4);
     EditorTestAccess::comboKlick(admin(), 0);
     EXPECT_TRUE(speichernAn());
-    f.txtTextBox(0).setText(QStringLiteral("Buchungen"));
-    f.chkCheckBox(1).setValue(1);
+    f.txtTextBox(frmEigenschaften::Txt::Name).setText(QStringLiteral("Buchungen"));
+    f.chkCheckBox(frmEigenschaften::Chk::EinfachesLog).setValue(1);
     f.chkFremdFormat().setValue(0);
     f.ctlFremdFilter().setText(QStringLiteral("*.csv"));
     f.ctlFremdMapping().setText(QStringLiteral("konten.txt"));
@@ -191,7 +195,7 @@ TEST_F(Editor, AnInstallationOfOneClientKindFixesKindAndClient) {
     w.start();
     w.tool(QStringLiteral("Neu"));
     ASSERT_TRUE(form());
-    IComboBox& cbo = form()->cboComboBox(2);
+    IComboBox& cbo = form()->cboComboBox(frmEigenschaften::Cbo::MandKanz);
     EXPECT_EQ(cbo.ItemCount(), 1);
     EXPECT_EQ(cbo.Key(), 1);
     EXPECT_EQ(cbo.ItemText(), "Mandant");
@@ -203,17 +207,17 @@ TEST_F(Editor, AnInstallationOfOneClientKindFixesKindAndClient) {
 TEST_F(Editor, AllClientsAreOfferedOnlyForTheTypesThatKnowThem) {
     w.start();
     w.tool(QStringLiteral("Neu"));
-    IComboBox& cbo = form()->cboComboBox(2);
+    IComboBox& cbo = form()->cboComboBox(frmEigenschaften::Cbo::MandKanz);
     EXPECT_TRUE(cbo.Enabled());
     EXPECT_EQ(cbo.ItemCount(), 2);  // type 17
 
-    form()->cboComboBox(0).setKey(99);
+    form()->cboComboBox(frmEigenschaften::Cbo::Auftragsart).setKey(99);
     EditorTestAccess::initMandKanz(admin(), 5);
     EXPECT_EQ(cbo.ItemCount(), 5);
     EXPECT_EQ(cbo.Key(), 5);
     EXPECT_EQ(cbo.ItemText(), "Alle Mandanten/Kanzleien");
     // A kind above what the type offers falls back to the highest offered.
-    form()->cboComboBox(0).setKey(17);
+    form()->cboComboBox(frmEigenschaften::Cbo::Auftragsart).setKey(17);
     EditorTestAccess::initMandKanz(admin(), 5);
     EXPECT_EQ(cbo.Key(), 2);
 }
@@ -222,16 +226,16 @@ TEST_F(Editor, AnotherClientKindDropsASelectionOfSeveralTextFiles) {
     w.start();
     w.tool(QStringLiteral("Neu"));
     EditorTestAccess::datenArt(admin()) = 99;
-    form()->cboComboBox(0).setKey(99);
+    form()->cboComboBox(frmEigenschaften::Cbo::Auftragsart).setKey(99);
     EditorTestAccess::initMandKanz(admin(), 1);
     EditorTestAccess::textDateien(admin()) = QStringLiteral("a.txt?b.txt");
-    form()->cboComboBox(2).setKey(3);
+    form()->cboComboBox(frmEigenschaften::Cbo::MandKanz).setKey(3);
     EditorTestAccess::comboKlick(admin(), 2);
     EXPECT_EQ(EditorTestAccess::textDateien(admin()), "");
     EXPECT_TRUE(speichernAn());
 
     EditorTestAccess::textDateien(admin()) = QStringLiteral("einzeln.txt");
-    form()->cboComboBox(2).setKey(1);
+    form()->cboComboBox(frmEigenschaften::Cbo::MandKanz).setKey(1);
     EditorTestAccess::comboKlick(admin(), 2);
     EXPECT_EQ(EditorTestAccess::textDateien(admin()), "einzeln.txt");
 }
@@ -240,7 +244,8 @@ TEST_F(Editor, TheCloseBoxEndsTheWindowAndGivesTheListItsCommandsBack) {
     dreiJobs();
     oeffnen(1);
     EXPECT_FALSE(w.toolsAn(w.browser().Tools()).contains("Neu"));
-    dynamic_cast<UserActions&>(form()->txtTextBox(2)).userType(QStringLiteral("weg"));
+    dynamic_cast<UserActions&>(form()->txtTextBox(frmEigenschaften::Txt::Beschreibung))
+        .userType(QStringLiteral("weg"));
     fenster()->userClose();
     EXPECT_FALSE(form());
     EXPECT_TRUE(w.ui->boxes.empty());

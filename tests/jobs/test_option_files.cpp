@@ -5,6 +5,7 @@
 
 #include "jobs/AdminJobOptionFilesNames.h"
 #include "tests/jobs/OptionFilesTestAccess.h"
+#include "ui/windows/frmEigenschaften.h"
 
 namespace {
 
@@ -88,15 +89,16 @@ TEST_F(OptionFiles, ReadingAScriptCountsItsEntriesAndAMissingOneCountsNone) {
 
 TEST_F(OptionFiles, TextFileFieldFollowsTheScript) {
     A::textDateien(a()) = QStringLiteral("/daten/alt.txt");
-    frm().ctlOptFileName(0).setText(zweiTabellen());
+    frm().ctlOptFileName(frmEigenschaften::OptDatei::Skript).setText(zweiTabellen());
     A::dateienSetzen(a(), QString());
-    EXPECT_EQ(frm().ctlOptFileName(1).Text(), kZweiDateien);
-    EXPECT_FALSE(frm().ctlOptFileName(1).Enabled());
+    EXPECT_EQ(frm().ctlOptFileName(frmEigenschaften::OptDatei::Textdatei).Text(), kZweiDateien);
+    EXPECT_FALSE(frm().ctlOptFileName(frmEigenschaften::OptDatei::Textdatei).Enabled());
 
-    frm().ctlOptFileName(0).setText(eineTabelle());
+    frm().ctlOptFileName(frmEigenschaften::OptDatei::Skript).setText(eineTabelle());
     A::dateienSetzen(a(), QString());
-    EXPECT_EQ(frm().ctlOptFileName(1).Text(), QStringLiteral("/daten/alt.txt"));
-    EXPECT_TRUE(frm().ctlOptFileName(1).Enabled());
+    EXPECT_EQ(frm().ctlOptFileName(frmEigenschaften::OptDatei::Textdatei).Text(),
+              QStringLiteral("/daten/alt.txt"));
+    EXPECT_TRUE(frm().ctlOptFileName(frmEigenschaften::OptDatei::Textdatei).Enabled());
 
     // Pairs of the former script do not carry over to another one.
     A::textDateien(a()) = QStringLiteral("BUCHUNGEN?/imp/b.txt");
@@ -104,7 +106,7 @@ TEST_F(OptionFiles, TextFileFieldFollowsTheScript) {
     EXPECT_EQ(A::textDateien(a()), QStringLiteral("BUCHUNGEN?/imp/b.txt"));
     A::dateienSetzen(a(), zweiTabellen());
     EXPECT_TRUE(A::textDateien(a()).isEmpty());
-    EXPECT_TRUE(frm().ctlOptFileName(1).Text().isEmpty());
+    EXPECT_TRUE(frm().ctlOptFileName(frmEigenschaften::OptDatei::Textdatei).Text().isEmpty());
 }
 
 TEST_F(OptionFiles, WithoutAFileTheDialogOffersTextAndAllFiles) {
@@ -117,13 +119,13 @@ TEST_F(OptionFiles, WithoutAFileTheDialogOffersTextAndAllFiles) {
     EXPECT_EQ(e.dialogs->fragen[0].start, QStringLiteral("/suite/daten/"));
     EXPECT_TRUE(e.dialogs->fragen[0].fileName.isEmpty());
     // Cancelled: nothing changes.
-    EXPECT_TRUE(frm().ctlOptFileName(1).Text().isEmpty());
+    EXPECT_TRUE(frm().ctlOptFileName(frmEigenschaften::OptDatei::Textdatei).Text().isEmpty());
     EXPECT_FALSE(e.geaendert());
 }
 
 TEST_F(OptionFiles, AllClientsChooseOnlyTheDirectoryOfTheTextFile) {
     A::mandKanz(a()) = 3;
-    frm().ctlOptFileName(0).setText(eineTabelle());
+    frm().ctlOptFileName(frmEigenschaften::OptDatei::Skript).setText(eineTabelle());
     e.unveraendert();
     e.dialogs->antworten.push_back(QStringLiteral("/neu"));
     A::dateiAuswaehlen(a(), 1);
@@ -131,7 +133,8 @@ TEST_F(OptionFiles, AllClientsChooseOnlyTheDirectoryOfTheTextFile) {
     ASSERT_EQ(e.dialogs->fragen.size(), 1u);
     EXPECT_EQ(e.dialogs->fragen[0].start, QStringLiteral("/daten/import/"));
     EXPECT_TRUE(e.dialogs->fragen[0].filter.isEmpty());
-    EXPECT_EQ(frm().ctlOptFileName(1).Text(), QStringLiteral("/neu/kunden.txt"));
+    EXPECT_EQ(frm().ctlOptFileName(frmEigenschaften::OptDatei::Textdatei).Text(),
+              QStringLiteral("/neu/kunden.txt"));
     EXPECT_TRUE(A::textDateien(a()).isEmpty());
     EXPECT_FALSE(e.geaendert());
 }

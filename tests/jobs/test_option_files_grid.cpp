@@ -4,6 +4,7 @@
 #include <QTemporaryDir>
 
 #include "tests/jobs/OptionFilesTestAccess.h"
+#include "ui/windows/frmOptTextDateien.h"
 
 namespace {
 
@@ -54,8 +55,9 @@ TEST_F(TextFileGrid, OneClientShowsTheScriptsFilesAndStoresThePairs) {
     A::textDateien(a()) = QStringLiteral("WEG?/alt/weg.txt?STAMM?/alt/stamm.csv");
     beimGitter([&] {
         gesehen = zellen();
-        EXPECT_FALSE(grdFrm().ctlOptTextDatei(1).Visible());
-        EXPECT_EQ(grdFrm().ctlOptTextDatei(0).ToolTip(), QStringLiteral("Auswahl Datenpfad..."));
+        EXPECT_FALSE(grdFrm().ctlOptTextDatei(frmOptTextDateien::Auswahl::NamensAnfang).Visible());
+        EXPECT_EQ(grdFrm().ctlOptTextDatei(frmOptTextDateien::Auswahl::Pfad).ToolTip(),
+                  QStringLiteral("Auswahl Datenpfad..."));
         EXPECT_EQ(grd().Row(), 1);
         klick("cmdOk");
     });
@@ -88,12 +90,13 @@ TEST_F(TextFileGrid, AllClientsEditPathAndBeginningOfTheName) {
     e.dialogs->antworten.push_back(QStringLiteral("/neu"));
     beimGitter([&] {
         gesehen = zellen();
-        EXPECT_TRUE(grdFrm().ctlOptTextDatei(1).Visible());
-        EXPECT_EQ(grdFrm().ctlOptTextDatei(0).ToolTip(), QStringLiteral("Datenpfad auswählen"));
+        EXPECT_TRUE(grdFrm().ctlOptTextDatei(frmOptTextDateien::Auswahl::NamensAnfang).Visible());
+        EXPECT_EQ(grdFrm().ctlOptTextDatei(frmOptTextDateien::Auswahl::Pfad).ToolTip(),
+                  QStringLiteral("Datenpfad auswählen"));
         EXPECT_TRUE(grd().ColHidden(2) && grd().ColHidden(3) && grd().ColHidden(4));
-        klick("ctlOptTextDatei", 1);
+        klick("ctlOptTextDatei", frmOptTextDateien::Auswahl::NamensAnfang);
         EXPECT_EQ(grd().TextMatrix(1, 1), QStringLiteral("/alt/buch*.txt"));
-        klick("ctlOptTextDatei", 0);
+        klick("ctlOptTextDatei", frmOptTextDateien::Auswahl::Pfad);
         klick("cmdOk");
     });
     A::dateiAuswaehlen(a(), 1);

@@ -3,6 +3,7 @@
 #include "app/cProperties.h"
 #include "headless/HeadlessDialogs.h"
 #include "tests/jobs/test_panels_access.h"
+#include "ui/windows/frmEigenschaften.h"
 
 namespace {
 
@@ -61,10 +62,14 @@ TEST_F(Panels, EachTypeShowsItsPanelCaptionsAndStaffSelection) {
         e.neuesFenster();
         e.typ(c.art);
         EXPECT_EQ(rahmen(), c.rahmen);
-        EXPECT_EQ(f().txtTextBox(4).Caption(), QString::fromUtf8(c.caption4));
-        EXPECT_EQ(zustand(f().txtTextBox(3)), QLatin1String(c.zustand3));
-        EXPECT_EQ(zustand(f().txtTextBox(1)), QLatin1String(c.zustand1));
-        EXPECT_EQ(zustand(f().txtTextBox(4)), QLatin1String(c.zustand4));
+        EXPECT_EQ(f().txtTextBox(frmEigenschaften::Txt::Logfiles).Caption(),
+                  QString::fromUtf8(c.caption4));
+        EXPECT_EQ(zustand(f().txtTextBox(frmEigenschaften::Txt::Importdaten)),
+                  QLatin1String(c.zustand3));
+        EXPECT_EQ(zustand(f().txtTextBox(frmEigenschaften::Txt::Backup)),
+                  QLatin1String(c.zustand1));
+        EXPECT_EQ(zustand(f().txtTextBox(frmEigenschaften::Txt::Logfiles)),
+                  QLatin1String(c.zustand4));
         ISelection& staff = f().ctlMitarbeiterBuchProp();
         EXPECT_EQ(staff.Visible() && staff.Enabled() && staff.TabStop(), c.mitarbeiter);
         if (c.mitarbeiter) {
@@ -78,18 +83,20 @@ TEST_F(Panels, TypeWithoutPanelKeepsOnlyTheCommonState) {
     e.typ(6);
     EXPECT_EQ(rahmen(), QStringList{QStringLiteral("fraImport")});
     EXPECT_FALSE(f().ctlMitarbeiterBuchProp().Visible());
-    EXPECT_EQ(f().txtTextBox(3).ToolTip(), QStringLiteral("Verzeichnis der Importdaten auswählen"));
+    EXPECT_EQ(f().txtTextBox(frmEigenschaften::Txt::Importdaten).ToolTip(),
+              QStringLiteral("Verzeichnis der Importdaten auswählen"));
 }
 
 TEST_F(Panels, BookingsPanelShowsLogFileAndFollowsForeignFormat) {
     f().chkFremdFormat().setValue(0);
     e.typ(4);
-    EXPECT_EQ(f().lblLabel(3).Caption(), QStringLiteral("/opt/suite/ImportLogBuchungen.txt"));
-    EXPECT_TRUE(f().chkCheckBox(1).Enabled());
+    EXPECT_EQ(f().lblLabel(frmEigenschaften::Lbl::BuchungsLog).Caption(),
+              QStringLiteral("/opt/suite/ImportLogBuchungen.txt"));
+    EXPECT_TRUE(f().chkCheckBox(frmEigenschaften::Chk::EinfachesLog).Enabled());
     EXPECT_TRUE(f().chkFremdFormat().Enabled());
     EXPECT_FALSE(f().ctlFremdFilter().Enabled());
     EXPECT_FALSE(f().ctlFremdMapping().Enabled());
-    EXPECT_FALSE(f().cmdCommandButton(10).Enabled());
+    EXPECT_FALSE(f().cmdCommandButton(frmEigenschaften::Cmd::Mappingdatei).Enabled());
     EXPECT_EQ(f().ctlMitarbeiterBuchProp().Top(), 1320);
 
     f().ctlFremdFilter().setText(QStringLiteral("*.csv"));
@@ -97,7 +104,7 @@ TEST_F(Panels, BookingsPanelShowsLogFileAndFollowsForeignFormat) {
     A::mitFremdformat(e.admin());
     EXPECT_TRUE(f().ctlFremdFilter().Enabled());
     EXPECT_TRUE(f().ctlFremdMapping().Enabled());
-    EXPECT_TRUE(f().cmdCommandButton(10).Enabled());
+    EXPECT_TRUE(f().cmdCommandButton(frmEigenschaften::Cmd::Mappingdatei).Enabled());
 
     // Unticking keeps the texts; only the save leaves them out.
     f().chkFremdFormat().setValue(0);
@@ -113,24 +120,28 @@ TEST_F(Panels, BookingsPanelShowsLogFileAndFollowsForeignFormat) {
 }
 
 TEST_F(Panels, DocumentTypesThenCustomersBringBackEmptiedDirectories) {
-    f().txtTextBox(1).setText(QStringLiteral("/sicher"));
-    f().txtTextBox(4).setText(QStringLiteral("/log"));
-    f().txtTextBox(1).setTop(720);
+    f().txtTextBox(frmEigenschaften::Txt::Backup).setText(QStringLiteral("/sicher"));
+    f().txtTextBox(frmEigenschaften::Txt::Logfiles).setText(QStringLiteral("/log"));
+    f().txtTextBox(frmEigenschaften::Txt::Backup).setTop(720);
     e.typ(28);
-    EXPECT_EQ(f().txtTextBox(1).Text(), QString());
-    EXPECT_EQ(f().txtTextBox(4).Text(), QString());
-    EXPECT_EQ(zustand(f().cmdCommandButton(6)), QStringLiteral("000"));
-    EXPECT_EQ(zustand(f().cmdCommandButton(8)), QStringLiteral("000"));
-    EXPECT_EQ(zustand(f().cmdCommandButton(2)), QStringLiteral("111"));
+    EXPECT_EQ(f().txtTextBox(frmEigenschaften::Txt::Backup).Text(), QString());
+    EXPECT_EQ(f().txtTextBox(frmEigenschaften::Txt::Logfiles).Text(), QString());
+    EXPECT_EQ(zustand(f().cmdCommandButton(frmEigenschaften::Cmd::Backupverzeichnis)),
+              QStringLiteral("000"));
+    EXPECT_EQ(zustand(f().cmdCommandButton(frmEigenschaften::Cmd::Logverzeichnis)),
+              QStringLiteral("000"));
+    EXPECT_EQ(zustand(f().cmdCommandButton(frmEigenschaften::Cmd::Importverzeichnis)),
+              QStringLiteral("111"));
     EXPECT_EQ(f().ctlMitarbeiterBuchProp().Top(), 720);
     EXPECT_TRUE(f().grdBeleg().Visible());
     EXPECT_FALSE(f().grdBeleg().TabStop());
 
     e.typ(17);
-    EXPECT_EQ(zustand(f().txtTextBox(1)), QStringLiteral("111"));
-    EXPECT_EQ(zustand(f().txtTextBox(4)), QStringLiteral("111"));
-    EXPECT_EQ(zustand(f().cmdCommandButton(6)), QStringLiteral("111"));
-    EXPECT_EQ(f().txtTextBox(1).Text(), QString());
+    EXPECT_EQ(zustand(f().txtTextBox(frmEigenschaften::Txt::Backup)), QStringLiteral("111"));
+    EXPECT_EQ(zustand(f().txtTextBox(frmEigenschaften::Txt::Logfiles)), QStringLiteral("111"));
+    EXPECT_EQ(zustand(f().cmdCommandButton(frmEigenschaften::Cmd::Backupverzeichnis)),
+              QStringLiteral("111"));
+    EXPECT_EQ(f().txtTextBox(frmEigenschaften::Txt::Backup).Text(), QString());
     EXPECT_FALSE(f().grdBeleg().Visible());
     EXPECT_EQ(f().ctlMitarbeiterBuchProp().Top(), 1320);
 }
@@ -139,25 +150,31 @@ TEST_F(Panels, DealerAndTextImportMoveTheFramesAndKeepTheirCaptions) {
     e.typ(30);
     EXPECT_EQ(f().fraNivora().Top(), 600);
     EXPECT_EQ(f().fraImport().Top(), 600 + 500 + 120);
-    EXPECT_EQ(f().txtTextBox(3).Caption(), QStringLiteral("Lesen aus"));
-    EXPECT_EQ(f().txtTextBox(1).Caption(), QStringLiteral("Verschieben in"));
-    EXPECT_TRUE(f().cboComboBox(3).Enabled());
+    EXPECT_EQ(f().txtTextBox(frmEigenschaften::Txt::Importdaten).Caption(),
+              QStringLiteral("Lesen aus"));
+    EXPECT_EQ(f().txtTextBox(frmEigenschaften::Txt::Backup).Caption(),
+              QStringLiteral("Verschieben in"));
+    EXPECT_TRUE(f().cboComboBox(frmEigenschaften::Cbo::Nivora).Enabled());
 
     // The captions stay until the window is made anew; the frame goes back.
     e.typ(17);
     EXPECT_EQ(f().fraImport().Top(), 600);
-    EXPECT_EQ(f().txtTextBox(3).Caption(), QStringLiteral("Lesen aus"));
-    EXPECT_EQ(f().txtTextBox(4).Caption(), QStringLiteral("Logfiles"));
+    EXPECT_EQ(f().txtTextBox(frmEigenschaften::Txt::Importdaten).Caption(),
+              QStringLiteral("Lesen aus"));
+    EXPECT_EQ(f().txtTextBox(frmEigenschaften::Txt::Logfiles).Caption(),
+              QStringLiteral("Logfiles"));
     EXPECT_FALSE(f().fraNivora().Visible());
-    EXPECT_FALSE(f().cboComboBox(3).Enabled());
+    EXPECT_FALSE(f().cboComboBox(frmEigenschaften::Cbo::Nivora).Enabled());
 
     e.typ(99);
     EXPECT_EQ(f().FraTxtImport().Top(), 600);
     EXPECT_EQ(f().fraImport().Top(), 600 + 900);
-    EXPECT_EQ(f().txtTextBox(3).Caption(), QStringLiteral("Importformat"));
-    EXPECT_EQ(f().txtTextBox(3).ToolTip(), QStringLiteral("Verzeichnis für das Importformat"));
-    EXPECT_TRUE(f().ctlOptFileName(0).Visible());
-    EXPECT_TRUE(f().cmdOptFileName(1).TabStop());
+    EXPECT_EQ(f().txtTextBox(frmEigenschaften::Txt::Importdaten).Caption(),
+              QStringLiteral("Importformat"));
+    EXPECT_EQ(f().txtTextBox(frmEigenschaften::Txt::Importdaten).ToolTip(),
+              QStringLiteral("Verzeichnis für das Importformat"));
+    EXPECT_TRUE(f().ctlOptFileName(frmEigenschaften::OptDatei::Skript).Visible());
+    EXPECT_TRUE(f().cmdOptFileName(frmEigenschaften::OptDatei::Textdatei).TabStop());
 
     // Switching twice does not move the frame further down.
     e.typ(99);
@@ -210,7 +227,7 @@ TEST_F(Panels, SingleKindInstallationFixesTheClient) {
 
 TEST_F(Panels, MappingDialogStartsInTheImportDirectoryOrTheStandardPath) {
     auto& dialog = dynamic_cast<HeadlessFileDialog&>(f().ctlCommonDialog());
-    f().txtTextBox(3).setText(QStringLiteral("/imp"));
+    f().txtTextBox(frmEigenschaften::Txt::Importdaten).setText(QStringLiteral("/imp"));
     f().ctlFremdMapping().setText(QStringLiteral("alt.map"));
     A::mappingDatei(e.admin());
     EXPECT_EQ(dialog.lastSettings().title, QStringLiteral("Mappingdatei auswählen"));
@@ -220,7 +237,7 @@ TEST_F(Panels, MappingDialogStartsInTheImportDirectoryOrTheStandardPath) {
     EXPECT_EQ(f().ctlFremdMapping().Text(), QStringLiteral("alt.map"));
 
     A::standardPfad(e.admin()) = QStringLiteral("/standard");
-    f().txtTextBox(3).setText(QString());
+    f().txtTextBox(frmEigenschaften::Txt::Importdaten).setText(QString());
     A::mappingDatei(e.admin());
     EXPECT_EQ(dialog.lastSettings().initialDirectory, QStringLiteral("/standard"));
 }

@@ -65,7 +65,8 @@ class Editor {
 
     // The type chosen as the user does: the combo stands on it, then the panels follow.
     void typ(std::uint8_t bytArt) {
-        AdminJobTestAccess::initCbo(admin(), f->cboComboBox(0), bytArt, false);
+        AdminJobTestAccess::initCbo(admin(), f->cboComboBox(frmEigenschaften::Cbo::Auftragsart),
+                                    bytArt, false);
         PanelsTestAccess::datenart(admin(), bytArt);
     }
 

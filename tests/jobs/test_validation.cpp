@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/jobs/test_panels_access.h"
+#include "ui/windows/frmEigenschaften.h"
 
 namespace {
 
@@ -28,16 +29,18 @@ class Validation : public ::testing::Test {
     // A job of the type with every field that the checks look at filled and valid.
     void gueltig(std::uint8_t bytArt) {
         e.typ(bytArt);
-        f().cboComboBox(2).setKey(1);
-        f().txtTextBox(0).setText(QStringLiteral("Nachtimport"));
+        f().cboComboBox(frmEigenschaften::Cbo::MandKanz).setKey(1);
+        f().txtTextBox(frmEigenschaften::Txt::Name).setText(QStringLiteral("Nachtimport"));
         f().ctlMandant().setId(4);
-        f().txtTextBox(3).setText(QStringLiteral("/imp"));
-        f().txtTextBox(1).setText(QStringLiteral("/sic"));
-        f().txtTextBox(4).setText(QStringLiteral("/log"));
+        f().txtTextBox(frmEigenschaften::Txt::Importdaten).setText(QStringLiteral("/imp"));
+        f().txtTextBox(frmEigenschaften::Txt::Backup).setText(QStringLiteral("/sic"));
+        f().txtTextBox(frmEigenschaften::Txt::Logfiles).setText(QStringLiteral("/log"));
         f().ctlMitarbeiterBuchProp().setId(1);
         f().ctlMitarbeiter().setId(1);
-        f().ctlOptFileName(0).setText(QStringLiteral("/imp/skript.opt"));
-        f().ctlOptFileName(1).setText(QStringLiteral("daten.txt"));
+        f().ctlOptFileName(frmEigenschaften::OptDatei::Skript)
+            .setText(QStringLiteral("/imp/skript.opt"));
+        f().ctlOptFileName(frmEigenschaften::OptDatei::Textdatei)
+            .setText(QStringLiteral("daten.txt"));
     }
 
     // Checks once; the message shown (or "" for none) and where the focus went.
@@ -66,71 +69,71 @@ class Validation : public ::testing::Test {
 
 TEST_F(Validation, OfficeKindAsksForAnOffice) {
     gueltig(17);
-    f().cboComboBox(2).setKey(2);
+    f().cboComboBox(frmEigenschaften::Cbo::MandKanz).setKey(2);
     f().ctlMandant().setId(0);
     erwarte(kKanzlei, f().ctlMandant());
 }
 
 TEST_F(Validation, AllClientsNeedNoClient) {
     gueltig(5);
-    f().cboComboBox(2).setKey(3);
+    f().cboComboBox(frmEigenschaften::Cbo::MandKanz).setKey(3);
     f().ctlMandant().setId(0);
     EXPECT_TRUE(pruefen().ok);
 }
 
 TEST_F(Validation, TextImportNeedsScriptTextFileAndFormatDirectory) {
     gueltig(99);
-    f().ctlOptFileName(0).setText(QString());
-    f().ctlOptFileName(1).setText(QString());
-    f().txtTextBox(3).setText(QString());
+    f().ctlOptFileName(frmEigenschaften::OptDatei::Skript).setText(QString());
+    f().ctlOptFileName(frmEigenschaften::OptDatei::Textdatei).setText(QString());
+    f().txtTextBox(frmEigenschaften::Txt::Importdaten).setText(QString());
     erwarte(QStringLiteral("Bitte wählen sie eine Script-Datei für den Textdatei-Import aus."),
-            f().ctlOptFileName(0));
-    f().ctlOptFileName(0).setText(QStringLiteral("s.opt"));
+            f().ctlOptFileName(frmEigenschaften::OptDatei::Skript));
+    f().ctlOptFileName(frmEigenschaften::OptDatei::Skript).setText(QStringLiteral("s.opt"));
     erwarte(QStringLiteral("Bitte wählen sie eine Textdatei für den Textdatei-Import aus."),
-            f().ctlOptFileName(1));
-    f().ctlOptFileName(1).setText(QStringLiteral("t.txt"));
+            f().ctlOptFileName(frmEigenschaften::OptDatei::Textdatei));
+    f().ctlOptFileName(frmEigenschaften::OptDatei::Textdatei).setText(QStringLiteral("t.txt"));
     erwarte(QStringLiteral("Bitte wählen Sie das Verzeichnis für die Importformatdateien aus."),
-            f().txtTextBox(3));
+            f().txtTextBox(frmEigenschaften::Txt::Importdaten));
 }
 
 TEST_F(Validation, DealerJobChecksItsThreeDirectories) {
     gueltig(30);
-    ASSERT_EQ(f().cboComboBox(0).Key(), -1);
+    ASSERT_EQ(f().cboComboBox(frmEigenschaften::Cbo::Auftragsart).Key(), -1);
     A::bytDatenArt(e.admin()) = 30;
-    f().cboComboBox(3).Clear();
+    f().cboComboBox(frmEigenschaften::Cbo::Nivora).Clear();
     for (long key : {1, 2, 3}) {
-        f().cboComboBox(3).AddItem(key, QString::number(key));
+        f().cboComboBox(frmEigenschaften::Cbo::Nivora).AddItem(key, QString::number(key));
     }
-    f().cboComboBox(3).setKey(1);
-    f().txtTextBox(3).setText(QString());
+    f().cboComboBox(frmEigenschaften::Cbo::Nivora).setKey(1);
+    f().txtTextBox(frmEigenschaften::Txt::Importdaten).setText(QString());
     erwarte(
         QStringLiteral("Bitte wählen Sie das Verzeichnis aus dem die Belege übernommen werden."),
-        f().txtTextBox(3));
-    f().txtTextBox(3).setText(QStringLiteral("/imp"));
-    f().txtTextBox(4).setText(QString());
+        f().txtTextBox(frmEigenschaften::Txt::Importdaten));
+    f().txtTextBox(frmEigenschaften::Txt::Importdaten).setText(QStringLiteral("/imp"));
+    f().txtTextBox(frmEigenschaften::Txt::Logfiles).setText(QString());
     erwarte(QStringLiteral("Bitte wählen Sie das Verzeichnis für die temporären "
                            "Buchungsdateien (MTA) aus."),
-            f().txtTextBox(4));
+            f().txtTextBox(frmEigenschaften::Txt::Logfiles));
 
     // Dealer data 3 needs no temporary directory, but a given one must exist.
-    f().cboComboBox(3).setKey(3);
-    f().txtTextBox(1).setText(QString());
+    f().cboComboBox(frmEigenschaften::Cbo::Nivora).setKey(3);
+    f().txtTextBox(frmEigenschaften::Txt::Backup).setText(QString());
     erwarte(QStringLiteral(
                 "Bitte wählen Sie das Verzeichnis in dem die Belegedateien gesichert werden."),
-            f().txtTextBox(1));
-    f().txtTextBox(4).setText(QStringLiteral("/weg"));
-    erwarte(kFehlt, f().txtTextBox(4));
-    f().txtTextBox(4).setText(QString());
+            f().txtTextBox(frmEigenschaften::Txt::Backup));
+    f().txtTextBox(frmEigenschaften::Txt::Logfiles).setText(QStringLiteral("/weg"));
+    erwarte(kFehlt, f().txtTextBox(frmEigenschaften::Txt::Logfiles));
+    f().txtTextBox(frmEigenschaften::Txt::Logfiles).setText(QString());
 
-    f().txtTextBox(1).setText(QStringLiteral("/fort"));
-    erwarte(kFehlt, f().txtTextBox(1));
-    f().txtTextBox(1).setText(QStringLiteral("/imp"));
+    f().txtTextBox(frmEigenschaften::Txt::Backup).setText(QStringLiteral("/fort"));
+    erwarte(kFehlt, f().txtTextBox(frmEigenschaften::Txt::Backup));
+    f().txtTextBox(frmEigenschaften::Txt::Backup).setText(QStringLiteral("/imp"));
     erwarte(QStringLiteral("Das Verzeichnis aus dem die Belege gelesen werden darf nicht "
                            "identisch sein mit Verzeichnis in dem die Belegdateien gesichert "
                            "werden."),
-            f().txtTextBox(3));
+            f().txtTextBox(frmEigenschaften::Txt::Importdaten));
     // Case counts: another spelling of the directory passes, and no backup question comes.
-    f().txtTextBox(1).setText(QStringLiteral("/Imp"));
+    f().txtTextBox(frmEigenschaften::Txt::Backup).setText(QStringLiteral("/Imp"));
     EXPECT_TRUE(pruefen().ok);
 }
 
@@ -146,9 +149,9 @@ TEST_F(Validation, ArchiveJobsCheckOnlyTheArchiveLogin) {
     for (std::uint8_t art : {20, 21}) {
         SCOPED_TRACE(art);
         gueltig(art);
-        f().txtTextBox(3).setText(QString());
-        f().txtTextBox(4).setText(QString());
-        f().txtTextBox(1).setText(QString());
+        f().txtTextBox(frmEigenschaften::Txt::Importdaten).setText(QString());
+        f().txtTextBox(frmEigenschaften::Txt::Logfiles).setText(QString());
+        f().txtTextBox(frmEigenschaften::Txt::Backup).setText(QString());
         f().ctlMitarbeiter().setId(0);
         erwarte(QStringLiteral("Mitarbeiter für Archivanmeldung fehlt."), f().ctlMitarbeiter());
         f().ctlMitarbeiter().setId(1);
@@ -166,7 +169,7 @@ TEST_F(Validation, ArchiveJobStillNeedsNameAndClientFirst) {
 
 TEST_F(Validation, EmptyBackupIsAskedOncePerJobShown) {
     gueltig(17);
-    f().txtTextBox(1).setText(QStringLiteral("  "));
+    f().txtTextBox(frmEigenschaften::Txt::Backup).setText(QStringLiteral("  "));
 
     // Yes: the user goes to choose a directory.
     e.w.ui->answers = {6};
@@ -174,7 +177,7 @@ TEST_F(Validation, EmptyBackupIsAskedOncePerJobShown) {
     EXPECT_FALSE(r.ok);
     EXPECT_EQ(r.text, kBackupFrage);
     EXPECT_EQ(r.style, 4);
-    EXPECT_TRUE(f().txtTextBox(1).Focused());
+    EXPECT_TRUE(f().txtTextBox(frmEigenschaften::Txt::Backup).Focused());
 
     // Asked once: the next save goes through without a question.
     r = pruefen();
@@ -199,7 +202,7 @@ TEST_F(Validation, FilledBackupCountsAsAsked) {
 
 TEST_F(Validation, FailedStaffCheckComesAfterTheBackupQuestion) {
     gueltig(18);
-    f().txtTextBox(1).setText(QString());
+    f().txtTextBox(frmEigenschaften::Txt::Backup).setText(QString());
     f().ctlMitarbeiterBuchProp().setId(0);
     e.w.ui->answers = {7};
     EXPECT_FALSE(A::check(e.admin()));

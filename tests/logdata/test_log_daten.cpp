@@ -6,6 +6,7 @@
 #include "common/ErrObject.h"
 #include "logdata/LogDatenTexte.h"
 #include "tests/logdata/LogDatenTestKit.h"
+#include "ui/windows/frmLogDatenDel.h"
 
 using app_test::World;
 using logdaten_test::Driver;
@@ -211,15 +212,15 @@ TEST_F(LogDaten, DeletionWindowAsksTheControllerForTheTypes) {
         EXPECT_EQ(A::loeschJobId(o), 0);
         EXPECT_EQ(w.Icon(), 1000);
         EXPECT_FALSE(frm->lblAuftragName().Visible());
-        EXPECT_EQ(frm->ctlDatePicker(0).Value(), QDate(2026, 11, 22));
+        EXPECT_EQ(frm->ctlDatePicker(frmLogDatenDel::Datum::Von).Value(), QDate(2026, 11, 22));
         // An empty field is refused like reversed dates, and the window stays.
-        frm->ctlDatePicker(0).setValue(std::nullopt);
+        frm->ctlDatePicker(frmLogDatenDel::Datum::Von).setValue(std::nullopt);
         w.headlessControl(QStringLiteral("cmdAktion"), 0)->userClick();
         EXPECT_EQ(world.boxTexts().last(),
                   "Von/Bis Datum ungültig. Bitte überprüfen Sie die Eingaben.");
         EXPECT_EQ(world.ui->boxes.back().flags, 48);
         ASSERT_NE(A::loeschen(o), nullptr);
-        frm->ctlDatePicker(0).setValue(QDate(2026, 11, 21));
+        frm->ctlDatePicker(frmLogDatenDel::Datum::Von).setValue(QDate(2026, 11, 21));
         frm->cboAuftragsart().setKey(17);
         world.ui->answers = {6, 1};
         w.headlessControl(QStringLiteral("cmdAktion"), 0)->userClick();

@@ -6,6 +6,7 @@
 
 #include "common/ErrObject.h"
 #include "tests/logdata/LogDatenTestKit.h"
+#include "ui/windows/frmLogDatenDel.h"
 
 using app_test::World;
 using logdaten_test::Driver;
@@ -60,12 +61,12 @@ TEST(LogDatenLocked, DeletionWindowStaysWithItsEntriesAndTheSecondTryDeletes) {
     size_t reportsAfterFailure = 0;
     driver.steps[QStringLiteral("frmLogDatenDel")] = [&](HeadlessWindow& w) {
         auto frm = A::loeschen(o);
-        frm->ctlDatePicker(0).setValue(QDate(2026, 11, 21));
-        frm->ctlDatePicker(1).setValue(QDate(2026, 11, 21));
+        frm->ctlDatePicker(frmLogDatenDel::Datum::Von).setValue(QDate(2026, 11, 21));
+        frm->ctlDatePicker(frmLogDatenDel::Datum::Bis).setValue(QDate(2026, 11, 21));
         world.ui->answers = {6};
         w.headlessControl(QStringLiteral("cmdAktion"), 0)->userClick();
         windowAfterFailure = A::loeschen(o) != nullptr && !w.isUnloaded();
-        vonAfterFailure = frm->ctlDatePicker(0).Value();
+        vonAfterFailure = frm->ctlDatePicker(frmLogDatenDel::Datum::Von).Value();
         reportsAfterFailure = world.ui->reports.size();
         world.ui->answers = {6, 1};
         w.headlessControl(QStringLiteral("cmdAktion"), 0)->userClick();

@@ -8,6 +8,7 @@
 #include <QTest>
 
 #include "suite/Database.h"
+#include "suite/PostgresConnection.h"
 #include "tests/host/ProgramFixture.h"
 #include "tests/postgresql/ServerDatabase.h"
 
@@ -39,7 +40,7 @@ Finished runProgram(const QString& program, const QStringList& arguments, int ti
 class TwoWorkstations : public ProgramFixture {
   protected:
     void configure(SuiteConfig& config) override {
-        address_ = QStringLiteral("postgresql:///") + server_.name();
+        address_ = PostgresConnection::addressOf(server_.name());
         // The office's database as its administrator made it: the schema, the suite's staff
         // members and clients, no job yet.
         auto db = Database::open(address_, nullptr);

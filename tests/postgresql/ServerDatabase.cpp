@@ -11,6 +11,9 @@
 #include <mutex>
 #include <stdexcept>
 
+#include "common/ErrObject.h"
+#include "suite/PostgresConnection.h"
+
 namespace {
 
 std::mutex connectionsMutex;
@@ -26,22 +29,18 @@ QString nextConnectionName() {
 }
 
 QSqlDatabase openConnection(const QString& connectionName, const QString& databaseName) {
-    // Host, port and user stay empty: libpq takes them from the environment.
-    QSqlDatabase db = QSqlDatabase::addDatabase(QStringLiteral("QPSQL"), connectionName);
-    if (!db.isValid()) {
-        QSqlDatabase::removeDatabase(connectionName);
-        throw std::runtime_error("the Qt driver QPSQL is missing (libqt6sql6-psql)");
+    // Host, port and user stay empty: libpq takes them from the environment. The tests' own
+    // sessions are told apart from the program's, which some tests cut off.
+    try {
+        return PostgresConnection::open(connectionName, PostgresConnection::addressOf(databaseName),
+                                        {QStringLiteral("autojobverw-test")});
+    } catch (const RaisedError& e) {
+        throw std::runtime_error(
+            QStringLiteral("connecting to %1 (PGHOST=%2): %3")
+                .arg(databaseName, qEnvironmentVariable("PGHOST"), e.err().Description)
+                .toUtf8()
+                .toStdString());
     }
-    db.setDatabaseName(databaseName);
-    if (!db.open()) {
-        const QSqlError error = db.lastError();
-        db = QSqlDatabase();
-        QSqlDatabase::removeDatabase(connectionName);
-        fail(QStringLiteral("connecting to %1 (PGHOST=%2)")
-                 .arg(databaseName, qEnvironmentVariable("PGHOST")),
-             error);
-    }
-    return db;
 }
 
 void execute(QSqlDatabase& db, const QString& sql) {

@@ -7,6 +7,7 @@
 #include "common/Recordset.h"
 #include "common/Services.h"
 #include "suite/Database.h"
+#include "suite/PostgresConnection.h"
 #include "tests/headless/BrowserTestDatabase.h"
 #include "tests/headless/HeadlessTestKit.h"
 #include "tests/postgresql/ServerDatabase.h"
@@ -20,7 +21,7 @@ const QString kQuery = QStringLiteral("SELECT * FROM vEintrag WHERE (vEintrag.Ty
 
 std::shared_ptr<Database> serverLog(const ServerDatabase& server) {
     auto db =
-        Database::open(QStringLiteral("postgresql:///") + server.name(),
+        Database::open(PostgresConnection::addressOf(server.name()),
                        std::make_shared<FixedClock>(QDateTime(QDate(2026, 11, 22), QTime(10, 0))));
     db->applySchema();
     // 30,000 entries, dates out of the order of their ids and repeated, NULL texts and numbers.

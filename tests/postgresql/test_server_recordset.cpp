@@ -11,6 +11,7 @@
 #include "common/ErrObject.h"
 #include "common/Recordset.h"
 #include "suite/Database.h"
+#include "suite/PostgresConnection.h"
 #include "tests/postgresql/ServerDatabase.h"
 
 static void PrintTo(const QString& text, std::ostream* os) {
@@ -40,7 +41,7 @@ class ServerRecordset : public ::testing::Test {
         other = server.connect();
     }
 
-    QString address() const { return QStringLiteral("postgresql:///") + server.name(); }
+    QString address() const { return PostgresConnection::addressOf(server.name()); }
     std::unique_ptr<CRecordset> recordset() { return db->recordsetFactory()(); }
     // What another workstation reads, as text.
     QString stored(const QString& sql) {
@@ -249,7 +250,7 @@ TEST_F(ServerRecordset, AConnectionTheServerDroppedIsReportedOnceAndOpenedAgain)
 
 TEST(ServerSchema, TwoWorkstationsStartingOnANewDatabaseApplyTheSchemaOnce) {
     ServerDatabase server;
-    const QString address = QStringLiteral("postgresql:///") + server.name();
+    const QString address = PostgresConnection::addressOf(server.name());
     std::atomic<int> failures{0};
     auto start = [&] {
         try {
@@ -273,7 +274,7 @@ TEST(ServerSchema, TwoWorkstationsStartingOnANewDatabaseApplyTheSchemaOnce) {
 
 TEST(ServerSchema, ColumnNamesReadAsOnSqlite) {
     ServerDatabase server;
-    auto onServer = Database::open(QStringLiteral("postgresql:///") + server.name(), nullptr);
+    auto onServer = Database::open(PostgresConnection::addressOf(server.name()), nullptr);
     onServer->applySchema();
     auto embedded = Database::open(QStringLiteral(":memory:"), nullptr);
     embedded->applySchema();

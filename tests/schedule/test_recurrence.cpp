@@ -111,29 +111,32 @@ TEST_F(Recurrence, DefaultsOpenWeeklyOnSundayOnceADayWithoutEnd) {
     oeffnenMitStandard();
     EXPECT_EQ(f().window().Caption(),
               QStringLiteral("Zeitplan für wiederkehrende Aufträge bearbeiten"));
-    EXPECT_EQ(f().lblLabel(6).Caption(), QStringLiteral("Auftragsname:   Zeitplan01"));
-    EXPECT_TRUE(f().optHaeufigkeit(1).Value());
+    EXPECT_EQ(f().lblLabel(frmZeitIntervall::Lbl::Auftragsname).Caption(),
+              QStringLiteral("Auftragsname:   Zeitplan01"));
+    EXPECT_TRUE(f().optHaeufigkeit(frmZeitIntervall::Haeufigkeit::Woechentlich).Value());
     EXPECT_EQ(sichtbareRahmen(), QStringLiteral("5"));
-    EXPECT_EQ(f().cboComboBox(8).Key(), 1);
+    EXPECT_EQ(f().cboComboBox(frmZeitIntervall::Cbo::WochenAlle).Key(), 1);
     EXPECT_EQ(A::wochentage(a()), 1);
     EXPECT_EQ(f().chkCheckBox(6).Value(), 1);
-    EXPECT_TRUE(f().optHaeufigkeit(3).Value());
-    EXPECT_EQ(f().ctlMaskEdBox(0).Text(), QStringLiteral("00:00:00"));
-    EXPECT_EQ(f().ctlMaskEdBox(1).Text(), QStringLiteral("00:00:00"));
-    EXPECT_EQ(f().ctlMaskEdBox(2).Text(), QStringLiteral("23:59:00"));
-    EXPECT_TRUE(f().ctlMaskEdBox(0).Enabled());
-    EXPECT_FALSE(f().ctlMaskEdBox(1).Enabled());
-    EXPECT_FALSE(f().cboComboBox(6).Enabled());
-    EXPECT_EQ(f().cboComboBox(7).Key(), 8);
-    EXPECT_EQ(f().cboComboBox(6).ItemCount(), 24);
-    EXPECT_EQ(f().cboComboBox(6).Key(), 1);
-    EXPECT_TRUE(f().optEnddatum(1).Value());
-    EXPECT_FALSE(f().ctlDatePicker(1).Enabled());
-    EXPECT_EQ(f().ctlDatePicker(1).Value(), QDate(2026, 11, 22));
-    EXPECT_EQ(f().ctlDatePicker(0).Value(), QDate(2026, 11, 22));
+    EXPECT_TRUE(f().optHaeufigkeit(frmZeitIntervall::Haeufigkeit::EinmaligUm).Value());
+    EXPECT_EQ(f().ctlMaskEdBox(frmZeitIntervall::Zeit::EinmaligUm).Text(),
+              QStringLiteral("00:00:00"));
+    EXPECT_EQ(f().ctlMaskEdBox(frmZeitIntervall::Zeit::StartetUm).Text(),
+              QStringLiteral("00:00:00"));
+    EXPECT_EQ(f().ctlMaskEdBox(frmZeitIntervall::Zeit::EndetUm).Text(), QStringLiteral("23:59:00"));
+    EXPECT_TRUE(f().ctlMaskEdBox(frmZeitIntervall::Zeit::EinmaligUm).Enabled());
+    EXPECT_FALSE(f().ctlMaskEdBox(frmZeitIntervall::Zeit::StartetUm).Enabled());
+    EXPECT_FALSE(f().cboComboBox(frmZeitIntervall::Cbo::JedeAnzahl).Enabled());
+    EXPECT_EQ(f().cboComboBox(frmZeitIntervall::Cbo::JedeEinheit).Key(), 8);
+    EXPECT_EQ(f().cboComboBox(frmZeitIntervall::Cbo::JedeAnzahl).ItemCount(), 24);
+    EXPECT_EQ(f().cboComboBox(frmZeitIntervall::Cbo::JedeAnzahl).Key(), 1);
+    EXPECT_TRUE(f().optEnddatum(frmZeitIntervall::Enddatum::Ohne).Value());
+    EXPECT_FALSE(f().ctlDatePicker(frmZeitIntervall::Datum::Ende).Enabled());
+    EXPECT_EQ(f().ctlDatePicker(frmZeitIntervall::Datum::Ende).Value(), QDate(2026, 11, 22));
+    EXPECT_EQ(f().ctlDatePicker(frmZeitIntervall::Datum::Anfang).Value(), QDate(2026, 11, 22));
     // Loading moves no focus.
-    EXPECT_FALSE(f().ctlDatePicker(1).Focused());
-    EXPECT_FALSE(f().ctlMaskEdBox(0).Focused());
+    EXPECT_FALSE(f().ctlDatePicker(frmZeitIntervall::Datum::Ende).Focused());
+    EXPECT_FALSE(f().ctlMaskEdBox(frmZeitIntervall::Zeit::EinmaligUm).Focused());
 }
 
 TEST_F(Recurrence, ConfirmedDefaultsLoseTheSecondsOfTheEndTime) {
@@ -176,58 +179,62 @@ TEST_F(Recurrence, EveryFrequencyAndFormOfTheDayComesBackUnchanged) {
 TEST_F(Recurrence, EachTypeShowsItsFrameAndMonthlyFormsEnableTheirCombos) {
     oeffnen(satz(4, 3, 0, 0, 1, 1, 0, 235900, tag(2026, 11, 1), keinEndDatum()));
     EXPECT_EQ(sichtbareRahmen(), QStringLiteral("1"));
-    EXPECT_EQ(f().cboComboBox(0).Key(), 3);
+    EXPECT_EQ(f().cboComboBox(frmZeitIntervall::Cbo::TageAlle).Key(), 3);
 
     oeffnen(satz(16, 15, 2, 0, 1, 1, 223000, 235900, tag(2026, 11, 1), tag(2027, 1, 1)));
     EXPECT_EQ(sichtbareRahmen(), QStringLiteral("2"));
-    EXPECT_TRUE(f().optMonatlich(0).Value());
-    EXPECT_TRUE(f().cboComboBox(1).Enabled());
-    EXPECT_FALSE(f().cboComboBox(3).Enabled());
-    EXPECT_EQ(f().cboComboBox(4).Key(), -1);
-    EXPECT_EQ(f().cboComboBox(5).ItemCount(), 99);
-    EXPECT_EQ(f().cboComboBox(3).Key(), -1);
-    EXPECT_TRUE(f().optEnddatum(0).Value());
-    EXPECT_TRUE(f().ctlDatePicker(1).Enabled());
-    EXPECT_EQ(f().ctlDatePicker(1).Value(), QDate(2027, 1, 1));
-    EXPECT_FALSE(f().ctlDatePicker(1).Focused());
-    EXPECT_FALSE(f().cboComboBox(1).Focused());
+    EXPECT_TRUE(f().optMonatlich(frmZeitIntervall::Monatlich::Tag).Value());
+    EXPECT_TRUE(f().cboComboBox(frmZeitIntervall::Cbo::MonatTag).Enabled());
+    EXPECT_FALSE(f().cboComboBox(frmZeitIntervall::Cbo::AmErster).Enabled());
+    EXPECT_EQ(f().cboComboBox(frmZeitIntervall::Cbo::AmWochentag).Key(), -1);
+    EXPECT_EQ(f().cboComboBox(frmZeitIntervall::Cbo::AmMonateAlle).ItemCount(), 99);
+    EXPECT_EQ(f().cboComboBox(frmZeitIntervall::Cbo::AmErster).Key(), -1);
+    EXPECT_TRUE(f().optEnddatum(frmZeitIntervall::Enddatum::Mit).Value());
+    EXPECT_TRUE(f().ctlDatePicker(frmZeitIntervall::Datum::Ende).Enabled());
+    EXPECT_EQ(f().ctlDatePicker(frmZeitIntervall::Datum::Ende).Value(), QDate(2027, 1, 1));
+    EXPECT_FALSE(f().ctlDatePicker(frmZeitIntervall::Datum::Ende).Focused());
+    EXPECT_FALSE(f().cboComboBox(frmZeitIntervall::Cbo::MonatTag).Focused());
     // The monthly option again: already chosen, nothing changes.
     c("optHaeufigkeit", 2).userClick();
-    EXPECT_EQ(f().cboComboBox(1).Key(), 15);
-    EXPECT_EQ(f().cboComboBox(2).Key(), 2);
+    EXPECT_EQ(f().cboComboBox(frmZeitIntervall::Cbo::MonatTag).Key(), 15);
+    EXPECT_EQ(f().cboComboBox(frmZeitIntervall::Cbo::MonateAlle).Key(), 2);
 
     oeffnen(satz(32, 9, 3, 16, 1, 1, 70000, 235900, tag(2026, 11, 1), keinEndDatum()));
-    EXPECT_TRUE(f().optMonatlich(1).Value());
-    EXPECT_FALSE(f().cboComboBox(1).Enabled());
-    EXPECT_FALSE(f().lblLabel(1).Enabled());
-    EXPECT_TRUE(f().lblLabel(2).Enabled());
-    EXPECT_EQ(f().cboComboBox(3).ItemText(), QStringLiteral("Letzter"));
-    EXPECT_EQ(f().cboComboBox(4).ItemText(), QStringLiteral("Wochentag"));
-    EXPECT_EQ(f().cboComboBox(5).Key(), 3);
-    EXPECT_EQ(f().cboComboBox(1).Key(), -1);
-    EXPECT_EQ(f().cboComboBox(2).Key(), -1);
-    EXPECT_EQ(f().ctlMaskEdBox(0).Text(), QStringLiteral("07:00:00"));
+    EXPECT_TRUE(f().optMonatlich(frmZeitIntervall::Monatlich::Am).Value());
+    EXPECT_FALSE(f().cboComboBox(frmZeitIntervall::Cbo::MonatTag).Enabled());
+    EXPECT_FALSE(f().lblLabel(frmZeitIntervall::Lbl::MonateTag).Enabled());
+    EXPECT_TRUE(f().lblLabel(frmZeitIntervall::Lbl::MonateAm).Enabled());
+    EXPECT_EQ(f().cboComboBox(frmZeitIntervall::Cbo::AmErster).ItemText(),
+              QStringLiteral("Letzter"));
+    EXPECT_EQ(f().cboComboBox(frmZeitIntervall::Cbo::AmWochentag).ItemText(),
+              QStringLiteral("Wochentag"));
+    EXPECT_EQ(f().cboComboBox(frmZeitIntervall::Cbo::AmMonateAlle).Key(), 3);
+    EXPECT_EQ(f().cboComboBox(frmZeitIntervall::Cbo::MonatTag).Key(), -1);
+    EXPECT_EQ(f().cboComboBox(frmZeitIntervall::Cbo::MonateAlle).Key(), -1);
+    EXPECT_EQ(f().ctlMaskEdBox(frmZeitIntervall::Zeit::EinmaligUm).Text(),
+              QStringLiteral("07:00:00"));
 }
 
 TEST_F(Recurrence, CombosOfferTheirFullRanges) {
     oeffnenMitStandard();
     EXPECT_EQ(liste(7), (QStringList{"Minute(n)=4", "Stunde(n)=8"}));
-    EXPECT_EQ(f().cboComboBox(8).ItemCount(), 52);
-    EXPECT_EQ(f().cboComboBox(8).ItemTextAt(51), QStringLiteral("52"));
+    EXPECT_EQ(f().cboComboBox(frmZeitIntervall::Cbo::WochenAlle).ItemCount(), 52);
+    EXPECT_EQ(f().cboComboBox(frmZeitIntervall::Cbo::WochenAlle).ItemTextAt(51),
+              QStringLiteral("52"));
 
     c("optHaeufigkeit", 0).userClick();
     EXPECT_EQ(sichtbareRahmen(), QStringLiteral("1"));
-    EXPECT_EQ(f().cboComboBox(0).ItemCount(), 366);
-    EXPECT_EQ(f().cboComboBox(0).ItemTextAt(0), QStringLiteral("1"));
-    EXPECT_EQ(f().cboComboBox(0).ItemKey(365), 366);
-    EXPECT_EQ(f().cboComboBox(0).Key(), 1);
+    EXPECT_EQ(f().cboComboBox(frmZeitIntervall::Cbo::TageAlle).ItemCount(), 366);
+    EXPECT_EQ(f().cboComboBox(frmZeitIntervall::Cbo::TageAlle).ItemTextAt(0), QStringLiteral("1"));
+    EXPECT_EQ(f().cboComboBox(frmZeitIntervall::Cbo::TageAlle).ItemKey(365), 366);
+    EXPECT_EQ(f().cboComboBox(frmZeitIntervall::Cbo::TageAlle).Key(), 1);
 
     c("optHaeufigkeit", 2).userClick();
     EXPECT_EQ(sichtbareRahmen(), QStringLiteral("2"));
-    EXPECT_TRUE(f().optMonatlich(0).Value());
-    EXPECT_TRUE(f().cboComboBox(1).Focused());
-    EXPECT_EQ(f().cboComboBox(1).ItemCount(), 31);
-    EXPECT_EQ(f().cboComboBox(2).ItemKey(98), 99);
+    EXPECT_TRUE(f().optMonatlich(frmZeitIntervall::Monatlich::Tag).Value());
+    EXPECT_TRUE(f().cboComboBox(frmZeitIntervall::Cbo::MonatTag).Focused());
+    EXPECT_EQ(f().cboComboBox(frmZeitIntervall::Cbo::MonatTag).ItemCount(), 31);
+    EXPECT_EQ(f().cboComboBox(frmZeitIntervall::Cbo::MonateAlle).ItemKey(98), 99);
     EXPECT_EQ(liste(3), (QStringList{"1.=1", "2.=2", "3.=4", "4.=8", "Letzter=16"}));
     EXPECT_EQ(liste(4),
               (QStringList{"Sonntag=1", "Montag=2", "Dienstag=3", "Mittwoch=4", "Donnerstag=5",
@@ -235,10 +242,11 @@ TEST_F(Recurrence, CombosOfferTheirFullRanges) {
 
     // The second form with no change: "1.", "Sonntag" and every month.
     c("optMonatlich", 1).userClick();
-    EXPECT_TRUE(f().cboComboBox(3).Focused());
-    EXPECT_EQ(f().cboComboBox(3).ItemText(), QStringLiteral("1."));
-    EXPECT_EQ(f().cboComboBox(4).ItemText(), QStringLiteral("Sonntag"));
-    EXPECT_EQ(f().cboComboBox(5).Key(), 1);
+    EXPECT_TRUE(f().cboComboBox(frmZeitIntervall::Cbo::AmErster).Focused());
+    EXPECT_EQ(f().cboComboBox(frmZeitIntervall::Cbo::AmErster).ItemText(), QStringLiteral("1."));
+    EXPECT_EQ(f().cboComboBox(frmZeitIntervall::Cbo::AmWochentag).ItemText(),
+              QStringLiteral("Sonntag"));
+    EXPECT_EQ(f().cboComboBox(frmZeitIntervall::Cbo::AmMonateAlle).Key(), 1);
     ok();
     EXPECT_EQ(felder(record()).section(QLatin1Char(' '), 0, 5), QStringLiteral("32 1 1 1 1 1"));
 }
@@ -259,11 +267,11 @@ TEST_F(Recurrence, ChangingTheUnitKeepsOnlyIntervalsBelow25) {
         SCOPED_TRACE(QStringLiteral("%1/%2").arg(fall.einheit).arg(fall.intervall).toStdString());
         oeffnen(satz(4, 1, 0, 0, fall.einheit, fall.intervall, 80000, 170000, tag(2026, 11, 1),
                      keinEndDatum()));
-        EXPECT_TRUE(f().optHaeufigkeit(4).Value());
-        EXPECT_EQ(f().cboComboBox(6).Key(), fall.intervall);
+        EXPECT_TRUE(f().optHaeufigkeit(frmZeitIntervall::Haeufigkeit::Jede).Value());
+        EXPECT_EQ(f().cboComboBox(frmZeitIntervall::Cbo::JedeAnzahl).Key(), fall.intervall);
         c("cboComboBox", 7).userSelect(fall.neueEinheit);
-        EXPECT_EQ(f().cboComboBox(6).ItemCount(), fall.anzahl);
-        EXPECT_EQ(f().cboComboBox(6).Key(), fall.bleibt);
+        EXPECT_EQ(f().cboComboBox(frmZeitIntervall::Cbo::JedeAnzahl).ItemCount(), fall.anzahl);
+        EXPECT_EQ(f().cboComboBox(frmZeitIntervall::Cbo::JedeAnzahl).Key(), fall.bleibt);
         c("cmdCommandButton", 1).userClick();
     }
 }
@@ -271,8 +279,8 @@ TEST_F(Recurrence, ChangingTheUnitKeepsOnlyIntervalsBelow25) {
 TEST_F(Recurrence, OnceADayAfterRepeatingKeepsTheIntervalOnShow) {
     oeffnen(satz(4, 1, 0, 0, 4, 10, 80000, 170000, tag(2026, 11, 1), keinEndDatum()));
     c("optHaeufigkeit", 3).userClick();
-    EXPECT_TRUE(f().ctlMaskEdBox(0).Focused());
-    EXPECT_FALSE(f().cboComboBox(6).Enabled());
+    EXPECT_TRUE(f().ctlMaskEdBox(frmZeitIntervall::Zeit::EinmaligUm).Focused());
+    EXPECT_FALSE(f().cboComboBox(frmZeitIntervall::Cbo::JedeAnzahl).Enabled());
     c("ctlMaskEdBox", 0).userTime(QStringLiteral("06:15"));
     ok();
     EXPECT_EQ(record().plFrequencySubDay, 1);
@@ -284,8 +292,8 @@ TEST_F(Recurrence, OnceADayAfterRepeatingKeepsTheIntervalOnShow) {
 TEST_F(Recurrence, RepeatingTakesItsStartFromStartetUm) {
     oeffnenMitStandard();
     c("optHaeufigkeit", 4).userClick();
-    EXPECT_TRUE(f().cboComboBox(6).Focused());
-    EXPECT_FALSE(f().ctlMaskEdBox(0).Enabled());
+    EXPECT_TRUE(f().cboComboBox(frmZeitIntervall::Cbo::JedeAnzahl).Focused());
+    EXPECT_FALSE(f().ctlMaskEdBox(frmZeitIntervall::Zeit::EinmaligUm).Enabled());
     c("cboComboBox", 7).userSelect(4);
     c("cboComboBox", 6).userSelect(45);
     c("ctlMaskEdBox", 1).userTime(QStringLiteral("07:30"));
@@ -325,8 +333,8 @@ TEST_F(Recurrence, WeekdayTicksCountOnlyForWeekly) {
 TEST_F(Recurrence, ChecksComeInTheirOrderWithTheirFocus) {
     oeffnenMitStandard();
     c("optEnddatum", 0).userClick();
-    EXPECT_TRUE(f().ctlDatePicker(1).Enabled());
-    EXPECT_TRUE(f().ctlDatePicker(1).Focused());
+    EXPECT_TRUE(f().ctlDatePicker(frmZeitIntervall::Datum::Ende).Enabled());
+    EXPECT_TRUE(f().ctlDatePicker(frmZeitIntervall::Datum::Ende).Focused());
 
     // One day early: refused, the focus on the start date. A wrong time waits behind it.
     c("ctlDatePicker", 1).userDate(QDate(2026, 11, 21));
@@ -334,29 +342,29 @@ TEST_F(Recurrence, ChecksComeInTheirOrderWithTheirFocus) {
     A::setzeWochentage(a(), 0);
     EXPECT_EQ(A::pruefen(a()),
               QStringLiteral("Das Enddatum muss grösser sein als das Anfangsdaum."));
-    EXPECT_TRUE(f().ctlDatePicker(0).Focused());
+    EXPECT_TRUE(f().ctlDatePicker(frmZeitIntervall::Datum::Anfang).Focused());
 
     c("ctlDatePicker", 1).userDate(QDate(9999, 12, 31));
     EXPECT_EQ(A::pruefen(a()), QStringLiteral("Bitte geben Sie ein korrektes Datum ein."));
-    EXPECT_TRUE(f().ctlDatePicker(1).Focused());
+    EXPECT_TRUE(f().ctlDatePicker(frmZeitIntervall::Datum::Ende).Focused());
 
     // Equal days pass; the start date of no end is refused.
     c("ctlDatePicker", 1).userDate(QDate(2026, 11, 22));
     c("optEnddatum", 1).userClick();
-    EXPECT_FALSE(f().ctlDatePicker(1).Enabled());
+    EXPECT_FALSE(f().ctlDatePicker(frmZeitIntervall::Datum::Ende).Enabled());
     c("ctlDatePicker", 0).userDate(QDate(9999, 12, 31));
     EXPECT_EQ(A::pruefen(a()), QStringLiteral("Bitte geben Sie ein korrektes Datum ein."));
-    EXPECT_TRUE(f().ctlDatePicker(0).Focused());
+    EXPECT_TRUE(f().ctlDatePicker(frmZeitIntervall::Datum::Anfang).Focused());
     c("ctlDatePicker", 0).userDate(QDate(2026, 11, 22));
 
     // A wrong time in any box sends the focus to "Startet um", even a disabled box's.
     EXPECT_EQ(A::pruefen(a()), QStringLiteral("Bitte geben Sie eine korrekte Zeit ein."));
-    EXPECT_TRUE(f().ctlMaskEdBox(1).Focused());
+    EXPECT_TRUE(f().ctlMaskEdBox(frmZeitIntervall::Zeit::StartetUm).Focused());
     c("ctlMaskEdBox", 0).userTime(QStringLiteral("_5:30"));
     c("optHaeufigkeit", 4).userClick();
     c("ctlMaskEdBox", 2).userTime(QStringLiteral("3_:00"));
     EXPECT_EQ(A::pruefen(a()), QStringLiteral("Bitte geben Sie eine korrekte Zeit ein."));
-    EXPECT_TRUE(f().ctlMaskEdBox(1).Focused());
+    EXPECT_TRUE(f().ctlMaskEdBox(frmZeitIntervall::Zeit::StartetUm).Focused());
     c("ctlMaskEdBox", 2).userTime(QStringLiteral("23:00"));
     c("optHaeufigkeit", 3).userClick();
     EXPECT_EQ(A::pruefen(a()), QStringLiteral("Bitte wählen Sie mindestens einen Wochentag aus."));
@@ -374,7 +382,7 @@ TEST_F(Recurrence, ChecksComeInTheirOrderWithTheirFocus) {
 TEST_F(Recurrence, CancelKeepsTheRecordAndBothButtonsRewriteTheDescription) {
     auto zeitplan =
         std::make_shared<frmZeitplan>(services().windows->create(frmZeitplan::declaration()));
-    zeitplan->lblLabel(0).setCaption(kStandardIntervallText);
+    zeitplan->lblLabel(frmZeitplan::Lbl::Intervall).setCaption(kStandardIntervallText);
     A::zeitplan(a()) = zeitplan;
 
     oeffnenMitStandard();
@@ -383,7 +391,7 @@ TEST_F(Recurrence, CancelKeepsTheRecordAndBothButtonsRewriteTheDescription) {
     c("cmdCommandButton", 1).userClick();
     EXPECT_FALSE(offen());
     EXPECT_EQ(felder(record()), vorher);
-    EXPECT_EQ(zeitplan->lblLabel(0).Caption(),
+    EXPECT_EQ(zeitplan->lblLabel(frmZeitplan::Lbl::Intervall).Caption(),
               QStringLiteral("Jede 1. Woche am Sonntag, um 00:00:00"));
 
     A::oeffnen(a());
@@ -391,7 +399,8 @@ TEST_F(Recurrence, CancelKeepsTheRecordAndBothButtonsRewriteTheDescription) {
     c("cboComboBox", 0).userSelect(3);
     c("ctlMaskEdBox", 0).userTime(QStringLiteral("09:30"));
     ok();
-    EXPECT_EQ(zeitplan->lblLabel(0).Caption(), QStringLiteral("Jeden 3. Tag, um 09:30:00"));
+    EXPECT_EQ(zeitplan->lblLabel(frmZeitplan::Lbl::Intervall).Caption(),
+              QStringLiteral("Jeden 3. Tag, um 09:30:00"));
     A::zeitplan(a()).reset();
 }
 

@@ -92,16 +92,16 @@ TEST_F(ScheduleDialog, NegativeJobTellsFirstThenOpensEmptyAndStoresUnderThatJob)
     ASSERT_TRUE(A::dialog(admin()));
     EXPECT_TRUE(window().Visible());
     EXPECT_EQ(window().Icon(), 1000);
-    EXPECT_FALSE(dialog().optOption(2).Value());
-    EXPECT_FALSE(dialog().optOption(3).Value());
-    EXPECT_EQ(dialog().txtTextBox(0).Text(), QString());
+    EXPECT_FALSE(dialog().optOption(frmZeitplan::Opt::Einmal).Value());
+    EXPECT_FALSE(dialog().optOption(frmZeitplan::Opt::Wiederholt).Value());
+    EXPECT_EQ(dialog().txtTextBox(frmZeitplan::Txt::Name).Text(), QString());
     EXPECT_FALSE(dialog().ctlDatePicker().Enabled());
     EXPECT_FALSE(dialog().ctlMaskEdBox().Enabled());
-    EXPECT_FALSE(dialog().cmdCommandButton(2).Enabled());
-    EXPECT_FALSE(dialog().lblLabel(0).Visible());
+    EXPECT_FALSE(dialog().cmdCommandButton(frmZeitplan::Cmd::Aendern).Enabled());
+    EXPECT_FALSE(dialog().lblLabel(frmZeitplan::Lbl::Intervall).Visible());
 
-    dialog().txtTextBox(0).setText(QStringLiteral("Ohne Auftrag"));
-    click("cmdCommandButton", 0);
+    dialog().txtTextBox(frmZeitplan::Txt::Name).setText(QStringLiteral("Ohne Auftrag"));
+    click("cmdCommandButton", frmZeitplan::Cmd::Ok);
 
     EXPECT_EQ(w.ui->boxes.size(), 1u);
     EXPECT_FALSE(A::dialog(admin()));
@@ -119,9 +119,9 @@ TEST_F(ScheduleDialog, NewScheduleCountsTheListedRowsForItsName) {
     A::show(admin(), 0);
 
     EXPECT_EQ(A::zeitplanId(admin()), 0);
-    EXPECT_EQ(dialog().txtTextBox(0).Text(), QStringLiteral("Zeitplan03"));
+    EXPECT_EQ(dialog().txtTextBox(frmZeitplan::Txt::Name).Text(), QStringLiteral("Zeitplan03"));
     // The sentence of the defaults, with the blank after "1.", unlike the fixed text.
-    EXPECT_EQ(dialog().lblLabel(0).Caption(),
+    EXPECT_EQ(dialog().lblLabel(frmZeitplan::Lbl::Intervall).Caption(),
               QStringLiteral("Jede 1. Woche am Sonntag, um 00:00:00"));
     EXPECT_TRUE(w.ui->boxes.empty());
 }
@@ -130,8 +130,8 @@ TEST_F(ScheduleDialog, CancelKeepsTheRecordUntilTheNextOpeningWithoutStoring) {
     w.job(1, "Abgleich");
     A::jobId(admin()) = 1;
     A::show(admin(), 0);
-    click("optOption", 2);
-    click("cmdCommandButton", 1);
+    click("optOption", frmZeitplan::Opt::Einmal);
+    click("cmdCommandButton", frmZeitplan::Cmd::Abbrechen);
 
     EXPECT_FALSE(A::dialog(admin()));
     EXPECT_TRUE(A::schedule(admin()));

@@ -217,33 +217,34 @@ TEST(FrmEigenschaftenDeclaration, TheToolsOfTheBarInOrder) {
 
 TEST(FrmEigenschaftenWindow, OpensWithTheScheduleButtonsAndPageDisabled) {
     Editor e;
-    EXPECT_FALSE(e.form->cmdCommandButton(4).Enabled());
-    EXPECT_FALSE(e.form->cmdCommandButton(5).Enabled());
-    EXPECT_FALSE(e.form->cmdCommandButton(9).Enabled());
-    EXPECT_TRUE(e.form->cmdCommandButton(3).Enabled());
+    EXPECT_FALSE(e.form->cmdCommandButton(frmEigenschaften::Cmd::ZeitplanBearbeiten).Enabled());
+    EXPECT_FALSE(e.form->cmdCommandButton(frmEigenschaften::Cmd::ZeitplanLoeschen).Enabled());
+    EXPECT_FALSE(e.form->cmdCommandButton(frmEigenschaften::Cmd::ZeitplanKopieren).Enabled());
+    EXPECT_TRUE(e.form->cmdCommandButton(frmEigenschaften::Cmd::ZeitplanNeu).Enabled());
     EXPECT_FALSE(e.form->tabControl().TabEnabled(1));
     EXPECT_TRUE(e.form->tabControl().TabEnabled(0));
     EXPECT_EQ(e.form->ctlTimer().Interval(), 100);
 
     // The grid's focus brings the three buttons.
-    e.form->tabControl().setTabEnabled(1, true);
+    e.form->tabControl().setTabEnabled(frmEigenschaften::Tab::Zeitplaene, true);
     e.control("tabControl").userTab(1);
     e.control("grdZeitplan").userGridClick(0, 0, false);
-    EXPECT_TRUE(e.form->cmdCommandButton(4).Enabled());
-    EXPECT_TRUE(e.form->cmdCommandButton(5).Enabled());
-    EXPECT_TRUE(e.form->cmdCommandButton(9).Enabled());
+    EXPECT_TRUE(e.form->cmdCommandButton(frmEigenschaften::Cmd::ZeitplanBearbeiten).Enabled());
+    EXPECT_TRUE(e.form->cmdCommandButton(frmEigenschaften::Cmd::ZeitplanLoeschen).Enabled());
+    EXPECT_TRUE(e.form->cmdCommandButton(frmEigenschaften::Cmd::ZeitplanKopieren).Enabled());
 }
 
 TEST(FrmEigenschaftenWindow, ButtonsCombosAndToolsRaiseTheirIndex) {
     Editor e;
-    e.control("cmdCommandButton", 7).userClick();
-    e.control("cmdCommandButton", 0).userClick();
-    e.control("cmdCommandButton", 2).userClick();
-    e.control("cmdOptFileName", 1).userClick();
-    e.form->cboComboBox(0).AddItem(17, QStringLiteral("Siebzehn"));
-    e.form->cboComboBox(0).AddItem(99, QStringLiteral("Textdatei-Import"));
-    e.form->cboComboBox(0).setKey(17);  // by code: silent
-    e.control("cboComboBox", 0).userSelect(99);
+    e.control("cmdCommandButton", frmEigenschaften::Cmd::Uebernehmen).userClick();
+    e.control("cmdCommandButton", frmEigenschaften::Cmd::Ok).userClick();
+    e.control("cmdCommandButton", frmEigenschaften::Cmd::Importverzeichnis).userClick();
+    e.control("cmdOptFileName", frmEigenschaften::OptDatei::Textdatei).userClick();
+    e.form->cboComboBox(frmEigenschaften::Cbo::Auftragsart).AddItem(17, QStringLiteral("Siebzehn"));
+    e.form->cboComboBox(frmEigenschaften::Cbo::Auftragsart)
+        .AddItem(99, QStringLiteral("Textdatei-Import"));
+    e.form->cboComboBox(frmEigenschaften::Cbo::Auftragsart).setKey(17);  // by code: silent
+    e.control("cboComboBox", frmEigenschaften::Cbo::Auftragsart).userSelect(99);
     e.control("tbrMain").userTool(QStringLiteral("barMain"), QStringLiteral("next"));
     EXPECT_EQ(e.take(), (QStringList{"CommandButtonClicked 7", "CommandButtonClicked 0",
                                      "CommandButtonClicked 2", "OptDateiAuswaehlen 1",
@@ -252,17 +253,18 @@ TEST(FrmEigenschaftenWindow, ButtonsCombosAndToolsRaiseTheirIndex) {
 
 TEST(FrmEigenschaftenWindow, TypingMarksAChangeButACodeChangeOnlyTellsTheFile) {
     Editor e;
-    e.form->txtTextBox(3).setText(QStringLiteral("C:\\Import"));
-    e.form->ctlOptFileName(0).setText(QStringLiteral("a.opt"));
+    e.form->txtTextBox(frmEigenschaften::Txt::Importdaten).setText(QStringLiteral("C:\\Import"));
+    e.form->ctlOptFileName(frmEigenschaften::OptDatei::Skript).setText(QStringLiteral("a.opt"));
     EXPECT_EQ(e.take(), (QStringList{"ImportfileChanged", "ImportfileChanged"}));
 
-    e.control("txtTextBox", 0).userType(QStringLiteral("Neu"));
+    e.control("txtTextBox", frmEigenschaften::Txt::Name).userType(QStringLiteral("Neu"));
     EXPECT_EQ(e.take(), (QStringList{"Geaendert", "ImportfileChanged"}));
-    e.control("ctlOptFileName", 1).userType(QStringLiteral("x.txt"));
+    e.control("ctlOptFileName", frmEigenschaften::OptDatei::Textdatei)
+        .userType(QStringLiteral("x.txt"));
     EXPECT_EQ(e.take(), (QStringList{"Geaendert", "ImportfileChanged"}));
 
     // A key through the window's preview counts for the text field with the focus.
-    e.form->txtTextBox(2).SetFocus();
+    e.form->txtTextBox(frmEigenschaften::Txt::Beschreibung).SetFocus();
     e.window->userKey('A', 0);
     EXPECT_EQ(e.take(), (QStringList{"Geaendert"}));
 
@@ -273,7 +275,7 @@ TEST(FrmEigenschaftenWindow, TypingMarksAChangeButACodeChangeOnlyTellsTheFile) {
 
 TEST(FrmEigenschaftenWindow, TicksAndSelectionsMarkAChange) {
     Editor e;
-    e.control("chkCheckBox", 0).userClick();
+    e.control("chkCheckBox", frmEigenschaften::Chk::Aktiviert).userClick();
     e.control("chkFremdFormat").userClick();
     e.form->ctlFremdFilter().setText(QStringLiteral("*.csv"));
     e.form->ctlFremdMapping().setText(QStringLiteral("map.txt"));
@@ -294,7 +296,7 @@ TEST(FrmEigenschaftenWindow, GridsRaiseTheirRows) {
     e.control("grdBeleg").userGridToggle(2, 1);
     EXPECT_TRUE(beleg.CellChecked(2, 1));
 
-    e.form->tabControl().setTabEnabled(1, true);
+    e.form->tabControl().setTabEnabled(frmEigenschaften::Tab::Zeitplaene, true);
     e.control("tabControl").userTab(1);
     IGrid& plan = e.form->grdZeitplan();
     plan.setCols(4);
@@ -328,11 +330,11 @@ TEST(FrmEigenschaftenWindow, CancelThatDestroysTheWindowEndsCleanly) {
 
 TEST(FrmEigenschaftenWindow, F1OpensTheHelpOfThePageOnShow) {
     Editor e;
-    e.form->txtTextBox(0).SetFocus();
+    e.form->txtTextBox(frmEigenschaften::Txt::Name).SetFocus();
     e.window->userKey(KeyCode::F1, 0);
     e.window->userKey(KeyCode::F1, 1);  // with shift: no help, and not a text key either
-    e.form->tabControl().setTabEnabled(1, true);
-    e.form->tabControl().setTab(1);
+    e.form->tabControl().setTabEnabled(frmEigenschaften::Tab::Zeitplaene, true);
+    e.form->tabControl().setTab(frmEigenschaften::Tab::Zeitplaene);
     e.window->userKey(KeyCode::F1, 0);
     EXPECT_EQ(e.help, (QStringList{HelpKeys::kHelpFile + "#" + HelpKeys::kJobProperties,
                                    HelpKeys::kHelpFile + "#" + HelpKeys::kSchedules}));
@@ -344,13 +346,15 @@ TEST(FrmEigenschaftenWindow, TheTimerShowsTheDateWhenItChanges) {
     auto clock = std::make_shared<FixedClock>(QDateTime(QDate(2026, 11, 22), QTime(9, 5, 7)));
     services().clock = clock;
     e.window->tickTimers();
-    EXPECT_EQ(e.form->lblLabel(0).Caption(), "Aktuelles Rechnerdatum: 22.11.2026 09:05:07");
-    e.form->lblLabel(0).setCaption(QString());
+    EXPECT_EQ(e.form->lblLabel(frmEigenschaften::Lbl::RechnerDatum).Caption(),
+              "Aktuelles Rechnerdatum: 22.11.2026 09:05:07");
+    e.form->lblLabel(frmEigenschaften::Lbl::RechnerDatum).setCaption(QString());
     e.window->tickTimers();  // same second: left alone
-    EXPECT_EQ(e.form->lblLabel(0).Caption(), "");
+    EXPECT_EQ(e.form->lblLabel(frmEigenschaften::Lbl::RechnerDatum).Caption(), "");
     clock->set(QDateTime(QDate(2026, 11, 22), QTime(9, 5, 8)));
     e.window->tickTimers();
-    EXPECT_EQ(e.form->lblLabel(0).Caption(), "Aktuelles Rechnerdatum: 22.11.2026 09:05:08");
+    EXPECT_EQ(e.form->lblLabel(frmEigenschaften::Lbl::RechnerDatum).Caption(),
+              "Aktuelles Rechnerdatum: 22.11.2026 09:05:08");
 }
 
 }  // namespace

@@ -61,10 +61,11 @@ struct Files {
 TEST(FrmOptTextDateien, ChoicesGoToTheCurrentDataRow) {
     Files f;
     f.form->grdFileNames().setRow(0);
-    f.control("ctlOptTextDatei", 0).userClick();  // the heading: nothing to choose
+    f.control("ctlOptTextDatei", frmOptTextDateien::Auswahl::Pfad)
+        .userClick();  // the heading: nothing to choose
     f.form->grdFileNames().setRow(2);
-    f.control("ctlOptTextDatei", 1).userClick();
-    f.control("ctlOptTextDatei", 0).userClick();
+    f.control("ctlOptTextDatei", frmOptTextDateien::Auswahl::NamensAnfang).userClick();
+    f.control("ctlOptTextDatei", frmOptTextDateien::Auswahl::Pfad).userClick();
     f.control("grdFileNames").userGridClick(3, 1, true);
     EXPECT_EQ(f.events, (QStringList{"Auswaehlen 2 1", "Auswaehlen 2 0", "Auswaehlen 3 0"}));
     EXPECT_TRUE(f.window->Visible());

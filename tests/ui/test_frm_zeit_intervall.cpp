@@ -116,31 +116,31 @@ TEST(FrmZeitIntervallDeclaration, FourOptionGroupsAndFramesInTheirPlaces) {
 
 TEST(FrmZeitIntervall, OptionsOfOneGroupLeaveTheOtherGroupsAlone) {
     Dialog d;
-    d.control("optHaeufigkeit", 1).userClick();
-    d.control("optHaeufigkeit", 4).userClick();
-    d.control("optMonatlich", 1).userClick();
-    d.control("optEnddatum", 0).userClick();
+    d.control("optHaeufigkeit", frmZeitIntervall::Haeufigkeit::Woechentlich).userClick();
+    d.control("optHaeufigkeit", frmZeitIntervall::Haeufigkeit::Jede).userClick();
+    d.control("optMonatlich", frmZeitIntervall::Monatlich::Am).userClick();
+    d.control("optEnddatum", frmZeitIntervall::Enddatum::Mit).userClick();
     EXPECT_EQ(d.take(),
               (QStringList{"Haeufigkeit 1", "Haeufigkeit 4", "Monatlich 1", "Enddatum 0"}));
-    EXPECT_TRUE(d.form->optHaeufigkeit(1).Value());
-    EXPECT_TRUE(d.form->optHaeufigkeit(4).Value());
+    EXPECT_TRUE(d.form->optHaeufigkeit(frmZeitIntervall::Haeufigkeit::Woechentlich).Value());
+    EXPECT_TRUE(d.form->optHaeufigkeit(frmZeitIntervall::Haeufigkeit::Jede).Value());
     // Choosing the option already chosen raises nothing.
-    d.control("optHaeufigkeit", 1).userClick();
-    d.control("optHaeufigkeit", 3).userClick();
+    d.control("optHaeufigkeit", frmZeitIntervall::Haeufigkeit::Woechentlich).userClick();
+    d.control("optHaeufigkeit", frmZeitIntervall::Haeufigkeit::EinmaligUm).userClick();
     EXPECT_EQ(d.take(), QStringList{"Haeufigkeit 3"});
-    EXPECT_TRUE(d.form->optHaeufigkeit(1).Value());
-    EXPECT_FALSE(d.form->optHaeufigkeit(4).Value());
+    EXPECT_TRUE(d.form->optHaeufigkeit(frmZeitIntervall::Haeufigkeit::Woechentlich).Value());
+    EXPECT_FALSE(d.form->optHaeufigkeit(frmZeitIntervall::Haeufigkeit::Jede).Value());
 }
 
 TEST(FrmZeitIntervall, ButtonsCombosKeysAndCloseBoxRaiseTheirEvents) {
     Dialog d;
-    d.form->cboComboBox(7).AddItem(4, QStringLiteral("Minute(n)"));
-    d.form->cboComboBox(7).setKey(4);  // by code: silent
-    d.control("cboComboBox", 7).userSelect(4);
-    d.control("cmdCommandButton", 0).userClick();
+    d.form->cboComboBox(frmZeitIntervall::Cbo::JedeEinheit).AddItem(4, QStringLiteral("Minute(n)"));
+    d.form->cboComboBox(frmZeitIntervall::Cbo::JedeEinheit).setKey(4);  // by code: silent
+    d.control("cboComboBox", frmZeitIntervall::Cbo::JedeEinheit).userSelect(4);
+    d.control("cmdCommandButton", frmZeitIntervall::Cmd::Ok).userClick();
     d.window->userKey(112, 0);
     d.window->userKey(112, 1);
-    d.control("ctlMaskEdBox", 1).userKey(112, 0);
+    d.control("ctlMaskEdBox", frmZeitIntervall::Zeit::StartetUm).userKey(112, 0);
     d.control("chkCheckBox", 2).userClick();  // the controller reads the boxes when it needs
     d.window->userClose();
     EXPECT_EQ(d.take(), (QStringList{"Combo 7", "Button 0", "Hilfe", "Hilfe", "Button 1"}));

@@ -54,12 +54,12 @@ struct Schedule {
 
 TEST(ScheduleWindow, OptionsRaiseOnlyWhenChosenByCodeOrUser) {
     Schedule s;
-    s.form->optOption(3).setValue(true);
-    s.control("optOption", 2).userClick();
+    s.form->optOption(frmZeitplan::Opt::Wiederholt).setValue(true);
+    s.control("optOption", frmZeitplan::Opt::Einmal).userClick();
     // Choosing the one already chosen changes nothing.
-    s.control("optOption", 2).userClick();
+    s.control("optOption", frmZeitplan::Opt::Einmal).userClick();
     EXPECT_EQ(s.events, (QStringList{"Option 3", "Option 2"}));
-    EXPECT_FALSE(s.form->optOption(3).Value());
+    EXPECT_FALSE(s.form->optOption(frmZeitplan::Opt::Wiederholt).Value());
 }
 
 TEST(ScheduleWindow, ButtonsCloseBoxAndHelpKey) {

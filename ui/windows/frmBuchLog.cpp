@@ -9,8 +9,6 @@ namespace {
 
 using declare::control;
 
-constexpr int kOeffnen = 1;
-
 WindowDecl makeDeclaration() {
     WindowDecl d;
     d.name = QStringLiteral("frmBuchLog");
@@ -20,9 +18,12 @@ WindowDecl makeDeclaration() {
     d.controls << control("txtTextBox", -1, ControlKind::TextBox, "Adresse")
                << control("grdData", -1, ControlKind::Grid)
                << control("lblLabel", -1, ControlKind::Label)
-               << control("cmdCommandButton", 1, ControlKind::Button, "Öffnen", "Datei öffnen")
-               << control("cmdCommandButton", 2, ControlKind::Button, "Explorer", "Exporer öffnen")
-               << control("cmdCommandButton", 0, ControlKind::Button, "Schließen");
+               << control("cmdCommandButton", frmBuchLog::Cmd::Oeffnen, ControlKind::Button,
+                          "Öffnen", "Datei öffnen")
+               << control("cmdCommandButton", frmBuchLog::Cmd::Explorer, ControlKind::Button,
+                          "Explorer", "Exporer öffnen")
+               << control("cmdCommandButton", frmBuchLog::Cmd::Schliessen, ControlKind::Button,
+                          "Schließen");
     return d;
 }
 
@@ -43,7 +44,7 @@ void frmBuchLog::onControl(const ControlEvent& e) {
     if (e.type == EventType::Click && is(e, "cmdCommandButton")) {
         fire(evFrmBuLogCommandButtonClicked, e.index);
     } else if (e.type == EventType::DblClick && is(e, "grdData") && e.row > 0 &&
-               cmdCommandButton(kOeffnen).Enabled()) {
-        fire(evFrmBuLogCommandButtonClicked, kOeffnen);
+               cmdCommandButton(Cmd::Oeffnen).Enabled()) {
+        fire(evFrmBuLogCommandButtonClicked, Cmd::Oeffnen);
     }
 }

@@ -13,6 +13,13 @@ class frmBuchLog : public WindowContract {
     static const WindowDecl& declaration();
     explicit frmBuchLog(std::unique_ptr<IWindow> window);
 
+    // The indexes of the buttons, by what each is for.
+    struct Cmd {
+        static constexpr int Schliessen = 0;
+        static constexpr int Oeffnen = 1;
+        static constexpr int Explorer = 2;
+    };
+
     ILabel& lblLabel() { return get<ILabel>(QStringLiteral("lblLabel")); }
     ITextBox& txtTextBox() { return get<ITextBox>(QStringLiteral("txtTextBox")); }
     IGrid& grdData() { return get<IGrid>(QStringLiteral("grdData")); }
@@ -20,7 +27,7 @@ class frmBuchLog : public WindowContract {
         return get<IButton>(QStringLiteral("cmdCommandButton"), index);
     }
 
-    // Schließen (0), Öffnen (1), Explorer (2).
+    // One of Cmd.
     std::function<void(int index)> evFrmBuLogCommandButtonClicked;
 
   private:

@@ -10,8 +10,9 @@ namespace {
 
 const QString kBar = QStringLiteral("tbrMain");
 const QString kBand = QStringLiteral("barMain");
-constexpr int kCancel = 1;
-constexpr int kScheduleButtons[] = {4, 5, 9};
+constexpr int kScheduleButtons[] = {frmEigenschaften::Cmd::ZeitplanBearbeiten,
+                                    frmEigenschaften::Cmd::ZeitplanLoeschen,
+                                    frmEigenschaften::Cmd::ZeitplanKopieren};
 
 class Declaration {
   public:
@@ -28,9 +29,10 @@ class Declaration {
         general();
         panels();
         schedules();
-        add("cmdCommandButton", 0, ControlKind::Button, "OK");
-        add("cmdCommandButton", 1, ControlKind::Button, "Abbrechen");
-        add("cmdCommandButton", 7, ControlKind::Button, "Ü&bernehmen", "Übernehmen");
+        add("cmdCommandButton", frmEigenschaften::Cmd::Ok, ControlKind::Button, "OK");
+        add("cmdCommandButton", frmEigenschaften::Cmd::Abbrechen, ControlKind::Button, "Abbrechen");
+        add("cmdCommandButton", frmEigenschaften::Cmd::Uebernehmen, ControlKind::Button,
+            "Ü&bernehmen", "Übernehmen");
         ControlDecl& timer = add("ctlTimer", -1, ControlKind::Timer);
         timer.interval = 100;
         add("ctlCommonDialog", -1, ControlKind::FileDialog);
@@ -56,17 +58,20 @@ class Declaration {
 
     void general() {
         page_ = 0;
-        add("txtTextBox", 0, ControlKind::TextBox, "Name");
-        add("cboComboBox", 0, ControlKind::ComboBox, "Auftragsart", "Datenart auswählen");
-        add("chkCheckBox", 0, ControlKind::CheckBox, "Aktiviert", "Aktivieren");
-        add("cboComboBox", 2, ControlKind::ComboBox);
+        add("txtTextBox", frmEigenschaften::Txt::Name, ControlKind::TextBox, "Name");
+        add("cboComboBox", frmEigenschaften::Cbo::Auftragsart, ControlKind::ComboBox, "Auftragsart",
+            "Datenart auswählen");
+        add("chkCheckBox", frmEigenschaften::Chk::Aktiviert, ControlKind::CheckBox, "Aktiviert",
+            "Aktivieren");
+        add("cboComboBox", frmEigenschaften::Cbo::MandKanz, ControlKind::ComboBox);
         add("ctlMandant", -1, ControlKind::Selection);
-        ControlDecl& description = add("txtTextBox", 2, ControlKind::TextBox, "Beschreibung");
+        ControlDecl& description = add("txtTextBox", frmEigenschaften::Txt::Beschreibung,
+                                       ControlKind::TextBox, "Beschreibung");
         description.multiLine = true;
-        add("lblLabel", 1, ControlKind::Label, "Erstellt");
-        add("lblLabel", 2, ControlKind::Label, "Erstellt Datum");
+        add("lblLabel", frmEigenschaften::Lbl::Erstellt, ControlKind::Label, "Erstellt");
+        add("lblLabel", frmEigenschaften::Lbl::ErstelltDatum, ControlKind::Label, "Erstellt Datum");
         add("lblLetzteAenderung", -1, ControlKind::Label);
-        add("lblLabel", 0, ControlKind::Label);
+        add("lblLabel", frmEigenschaften::Lbl::RechnerDatum, ControlKind::Label);
     }
 
     // The panels of the job types share one place of page 0; the type shows its own.
@@ -74,31 +79,35 @@ class Declaration {
         page_ = 0;
         add("fraNivora", -1, ControlKind::Frame);
         within("fraNivora");
-        add("cboComboBox", 3, ControlKind::ComboBox, "Daten");
+        add("cboComboBox", frmEigenschaften::Cbo::Nivora, ControlKind::ComboBox, "Daten");
         within("");
 
         add("FraTxtImport", -1, ControlKind::Frame);
         within("FraTxtImport");
-        add("ctlOptFileName", 0, ControlKind::TextBox, "Importskript",
-            "Skriptdatei für den Textimport eintragen.");
-        add("cmdOptFileName", 0, ControlKind::Button, "", "Anzeige des Auswahldialogs...");
-        add("ctlOptFileName", 1, ControlKind::TextBox, "Textdatei",
-            "Textdatei für das Import-Skript eintragen");
-        add("cmdOptFileName", 1, ControlKind::Button, "", "Anzeige des Auswahldialogs...");
+        add("ctlOptFileName", frmEigenschaften::OptDatei::Skript, ControlKind::TextBox,
+            "Importskript", "Skriptdatei für den Textimport eintragen.");
+        add("cmdOptFileName", frmEigenschaften::OptDatei::Skript, ControlKind::Button, "",
+            "Anzeige des Auswahldialogs...");
+        add("ctlOptFileName", frmEigenschaften::OptDatei::Textdatei, ControlKind::TextBox,
+            "Textdatei", "Textdatei für das Import-Skript eintragen");
+        add("cmdOptFileName", frmEigenschaften::OptDatei::Textdatei, ControlKind::Button, "",
+            "Anzeige des Auswahldialogs...");
         within("");
 
         add("fraImport", -1, ControlKind::Frame);
         within("fraImport");
-        add("txtTextBox", 3, ControlKind::TextBox, "Importdaten",
+        add("txtTextBox", frmEigenschaften::Txt::Importdaten, ControlKind::TextBox, "Importdaten",
             "Verzeichnis der Importdaten auswählen");
-        add("cmdCommandButton", 2, ControlKind::Button, "...",
-            "Verzeichnis der Importdaten auswählen");
-        add("txtTextBox", 1, ControlKind::TextBox, "Backup",
+        add("cmdCommandButton", frmEigenschaften::Cmd::Importverzeichnis, ControlKind::Button,
+            "...", "Verzeichnis der Importdaten auswählen");
+        add("txtTextBox", frmEigenschaften::Txt::Backup, ControlKind::TextBox, "Backup",
             "Verzeichnis für das Backup der importierten Dateien");
-        add("cmdCommandButton", 6, ControlKind::Button, "...",
-            "Verzeichnis für das Backup der importierten Dateien");
-        add("txtTextBox", 4, ControlKind::TextBox, "Logfiles", "Verzeichnis für die Logfiles");
-        add("cmdCommandButton", 8, ControlKind::Button, "...", "Verzeichnis für die Logfiles");
+        add("cmdCommandButton", frmEigenschaften::Cmd::Backupverzeichnis, ControlKind::Button,
+            "...", "Verzeichnis für das Backup der importierten Dateien");
+        add("txtTextBox", frmEigenschaften::Txt::Logfiles, ControlKind::TextBox, "Logfiles",
+            "Verzeichnis für die Logfiles");
+        add("cmdCommandButton", frmEigenschaften::Cmd::Logverzeichnis, ControlKind::Button, "...",
+            "Verzeichnis für die Logfiles");
         add("ctlMitarbeiterBuchProp", -1, ControlKind::Selection, "",
             "Mitarbeiter für die Verwendung der Importoptionen");
         within("");
@@ -106,14 +115,16 @@ class Declaration {
         add("fraBuchungen", -1, ControlKind::Frame);
         within("fraBuchungen");
         add("chkFremdFormat", -1, ControlKind::CheckBox, "Fremdformat");
-        add("chkCheckBox", 1, ControlKind::CheckBox, "vereinfachtes Logfile");
+        add("chkCheckBox", frmEigenschaften::Chk::EinfachesLog, ControlKind::CheckBox,
+            "vereinfachtes Logfile");
         add("ctlFremdFilter", -1, ControlKind::TextBox, "Dateiname",
             "Geben Sie hier bitte ein, in welcher Form die Importdateien vorliegen; z.B. *.csv");
         add("ctlFremdMapping", -1, ControlKind::TextBox, "Mappingdatei",
             "Geben Sie hier den Namen der Datei mit den Kontenzuordnungen ein. Diese Datei muss "
             "im Importverzeichnis liegen.");
-        add("cmdCommandButton", 10, ControlKind::Button, "...", "Auswahl der Mappingdatei");
-        add("lblLabel", 3, ControlKind::Label);
+        add("cmdCommandButton", frmEigenschaften::Cmd::Mappingdatei, ControlKind::Button, "...",
+            "Auswahl der Mappingdatei");
+        add("lblLabel", frmEigenschaften::Lbl::BuchungsLog, ControlKind::Label);
         within("");
 
         add("fraScandokumente", -1, ControlKind::Frame);
@@ -134,11 +145,15 @@ class Declaration {
     void schedules() {
         page_ = 1;
         add("grdZeitplan", -1, ControlKind::Grid);
-        add("cmdCommandButton", 3, ControlKind::Button, "&Neu");
-        add("cmdCommandButton", 4, ControlKind::Button, "&Bearbeiten").enabled = false;
-        add("cmdCommandButton", 5, ControlKind::Button, "&Löschen").enabled = false;
-        add("cmdCommandButton", 9, ControlKind::Button, "&Kopieren",
-            "Zeitplan auf andere Aufträge kopieren")
+        add("cmdCommandButton", frmEigenschaften::Cmd::ZeitplanNeu, ControlKind::Button, "&Neu");
+        add("cmdCommandButton", frmEigenschaften::Cmd::ZeitplanBearbeiten, ControlKind::Button,
+            "&Bearbeiten")
+            .enabled = false;
+        add("cmdCommandButton", frmEigenschaften::Cmd::ZeitplanLoeschen, ControlKind::Button,
+            "&Löschen")
+            .enabled = false;
+        add("cmdCommandButton", frmEigenschaften::Cmd::ZeitplanKopieren, ControlKind::Button,
+            "&Kopieren", "Zeitplan auf andere Aufträge kopieren")
             .enabled = false;
         page_ = -1;
     }
@@ -195,13 +210,15 @@ const WindowDecl& frmEigenschaften::declaration() {
 
 frmEigenschaften::frmEigenschaften(std::unique_ptr<IWindow> w) : WindowContract(std::move(w)) {
     // The schedules of a job wait until it has an id.
-    tabControl().setTabEnabled(1, false);
+    tabControl().setTabEnabled(Tab::Zeitplaene, false);
 
     WindowEvents events;
     events.onKeyDown = [this](int keyCode, int shift) { onKeyDown(keyCode, shift); };
     // Closing by the frame counts as Cancel; so does the window's going away.
-    events.onQueryUnload = [this](bool&) { fire(evFrmEigenschaftenCommandButtonClicked, kCancel); };
-    events.onUnload = [this] { fire(evFrmEigenschaftenCommandButtonClicked, kCancel); };
+    events.onQueryUnload = [this](bool&) {
+        fire(evFrmEigenschaftenCommandButtonClicked, Cmd::Abbrechen);
+    };
+    events.onUnload = [this] { fire(evFrmEigenschaftenCommandButtonClicked, Cmd::Abbrechen); };
     listen(std::move(events));
 }
 
@@ -298,8 +315,8 @@ bool frmEigenschaften::helpKey(int keyCode, int shift) {
     if (keyCode != KeyCode::F1 || shift != 0) {
         return false;
     }
-    gShowWikiHelpExterneProgramme(tabControl().Tab() == 1 ? HelpKeys::kSchedules
-                                                          : HelpKeys::kJobProperties);
+    gShowWikiHelpExterneProgramme(tabControl().Tab() == Tab::Zeitplaene ? HelpKeys::kSchedules
+                                                                        : HelpKeys::kJobProperties);
     return true;
 }
 
@@ -311,6 +328,7 @@ void frmEigenschaften::showTime() {
         return;
     }
     shownTime_ = shown;
-    lblLabel(0).setCaption(QStringLiteral("Aktuelles Rechnerdatum: ") +
-                           shown.toString(QStringLiteral("dd.MM.yyyy HH:mm:ss")));
+    lblLabel(Lbl::RechnerDatum)
+        .setCaption(QStringLiteral("Aktuelles Rechnerdatum: ") +
+                    shown.toString(QStringLiteral("dd.MM.yyyy HH:mm:ss")));
 }

@@ -14,6 +14,53 @@ class frmEigenschaften : public WindowContract {
     static const WindowDecl& declaration();
     explicit frmEigenschaften(std::unique_ptr<IWindow> window);
 
+    // The indexes of the control arrays, by what each control is for.
+    struct Cmd {
+        static constexpr int Ok = 0;
+        static constexpr int Abbrechen = 1;
+        static constexpr int Importverzeichnis = 2;
+        static constexpr int ZeitplanNeu = 3;
+        static constexpr int ZeitplanBearbeiten = 4;
+        static constexpr int ZeitplanLoeschen = 5;
+        static constexpr int Backupverzeichnis = 6;
+        static constexpr int Uebernehmen = 7;
+        static constexpr int Logverzeichnis = 8;
+        static constexpr int ZeitplanKopieren = 9;
+        static constexpr int Mappingdatei = 10;
+        static constexpr int Anzahl = 11;
+    };
+    struct Txt {
+        static constexpr int Name = 0;
+        static constexpr int Backup = 1;
+        static constexpr int Beschreibung = 2;
+        static constexpr int Importdaten = 3;
+        static constexpr int Logfiles = 4;
+    };
+    struct Cbo {
+        static constexpr int Auftragsart = 0;
+        static constexpr int MandKanz = 2;
+        static constexpr int Nivora = 3;
+    };
+    struct Chk {
+        static constexpr int Aktiviert = 0;
+        static constexpr int EinfachesLog = 1;
+    };
+    struct Lbl {
+        static constexpr int RechnerDatum = 0;
+        static constexpr int Erstellt = 1;
+        static constexpr int ErstelltDatum = 2;
+        static constexpr int BuchungsLog = 3;
+    };
+    // The import script and the text file it reads, with their choice buttons.
+    struct OptDatei {
+        static constexpr int Skript = 0;
+        static constexpr int Textdatei = 1;
+    };
+    struct Tab {
+        static constexpr int Allgemein = 0;
+        static constexpr int Zeitplaene = 1;
+    };
+
     ITextBox& txtTextBox(int index) { return get<ITextBox>(QStringLiteral("txtTextBox"), index); }
     IComboBox& cboComboBox(int index) {
         return get<IComboBox>(QStringLiteral("cboComboBox"), index);
@@ -56,7 +103,7 @@ class frmEigenschaften : public WindowContract {
     IFileDialog& ctlCommonDialog() { return get<IFileDialog>(QStringLiteral("ctlCommonDialog")); }
     IDirDialog& ctlDirDialog() { return get<IDirDialog>(QStringLiteral("ctlDirDialog")); }
 
-    // A button's click; Cancel (1) also when the window is closed or goes away.
+    // A button's click; Cancel (Cmd::Abbrechen) also when the window is closed or goes away.
     std::function<void(int index)> evFrmEigenschaftenCommandButtonClicked;
     // A double click in the schedules, with the grid's current row.
     std::function<void(int row)> evZeitplanEdit;
@@ -69,7 +116,7 @@ class frmEigenschaften : public WindowContract {
     std::function<void()> evImportfileChanged;
     std::function<void(int row)> evGrdBelegAfterEdit;
     std::function<void(const QString& tool)> evToolClick;
-    // The choice button of the script (0) or the text file (1).
+    // The choice button of the script or the text file (OptDatei).
     std::function<void(int index)> evOptDateiAuswaehlen;
     std::function<void()> evMitFremdformat;
     // A key pressed while the schedule grid has the focus: the grid's own key event, which

@@ -18,10 +18,13 @@ WindowDecl makeDeclaration() {
     d.controls << control("lblAuftragName", -1, ControlKind::Label,
                           "Logdaten für '<Auftrag>' löschen!")
                << control("cboAuftragsart", -1, ControlKind::ComboBox, "Auftragsart")
-               << control("ctlDatePicker", 0, ControlKind::DatePicker, "von Datum")
-               << control("ctlDatePicker", 1, ControlKind::DatePicker, "bis Datum")
-               << control("cmdAktion", 0, ControlKind::Button, "OK")
-               << control("cmdAktion", 1, ControlKind::Button, "Abbrechen");
+               << control("ctlDatePicker", frmLogDatenDel::Datum::Von, ControlKind::DatePicker,
+                          "von Datum")
+               << control("ctlDatePicker", frmLogDatenDel::Datum::Bis, ControlKind::DatePicker,
+                          "bis Datum")
+               << control("cmdAktion", frmLogDatenDel::Aktion::Ok, ControlKind::Button, "OK")
+               << control("cmdAktion", frmLogDatenDel::Aktion::Abbrechen, ControlKind::Button,
+                          "Abbrechen");
     return d;
 }
 

@@ -11,13 +11,23 @@ class frmLogDatenDel : public WindowContract {
     static const WindowDecl& declaration();
     explicit frmLogDatenDel(std::unique_ptr<IWindow> window);
 
+    // The indexes of the buttons and the date pickers.
+    struct Aktion {
+        static constexpr int Ok = 0;
+        static constexpr int Abbrechen = 1;
+    };
+    struct Datum {
+        static constexpr int Von = 0;
+        static constexpr int Bis = 1;
+    };
+
     ILabel& lblAuftragName() { return get<ILabel>(QStringLiteral("lblAuftragName")); }
     IComboBox& cboAuftragsart() { return get<IComboBox>(QStringLiteral("cboAuftragsart")); }
     // 0 "von Datum", 1 "bis Datum".
     IDatePicker& ctlDatePicker(int index) {
         return get<IDatePicker>(QStringLiteral("ctlDatePicker"), index);
     }
-    // 0 OK, 1 Abbrechen.
+    // One of Aktion.
     IButton& cmdAktion(int index) { return get<IButton>(QStringLiteral("cmdAktion"), index); }
 
     std::function<void(int Index)> evAktion;

@@ -15,9 +15,10 @@ WindowDecl makeDeclaration() {
     d.width = 560;
     d.height = 320;
     d.controls << control("grdFileNames", -1, ControlKind::Grid)
-               << control("ctlOptTextDatei", 0, ControlKind::Button, "", "Auswahl Datenpfad...")
-               << control("ctlOptTextDatei", 1, ControlKind::Button, "...",
-                          "Dateinamen beginnt mit")
+               << control("ctlOptTextDatei", frmOptTextDateien::Auswahl::Pfad, ControlKind::Button,
+                          "", "Auswahl Datenpfad...")
+               << control("ctlOptTextDatei", frmOptTextDateien::Auswahl::NamensAnfang,
+                          ControlKind::Button, "...", "Dateinamen beginnt mit")
                << control("cmdOk", -1, ControlKind::Button, "OK")
                << control("cmdAbbrechen", -1, ControlKind::Button, "Abbrechen")
                << control("ctlCommonDialog", -1, ControlKind::FileDialog);
@@ -39,7 +40,7 @@ void frmOptTextDateien::onControl(const ControlEvent& e) {
     if (e.type == EventType::Click && is(e, "ctlOptTextDatei")) {
         choose(e.index);
     } else if (e.type == EventType::DblClick && is(e, "grdFileNames")) {
-        choose(0);
+        choose(Auswahl::Pfad);
     } else if (e.type == EventType::Click && is(e, "cmdOk")) {
         const std::weak_ptr<int> alive = life_;
         if (auto handler = evTextDateienUebernehmen) {

@@ -12,6 +12,12 @@ class frmOptTextDateien : public WindowContract {
     static const WindowDecl& declaration();
     explicit frmOptTextDateien(std::unique_ptr<IWindow> window);
 
+    // The indexes of the choice buttons: the data path, or the start of the file names.
+    struct Auswahl {
+        static constexpr int Pfad = 0;
+        static constexpr int NamensAnfang = 1;
+    };
+
     IGrid& grdFileNames() { return get<IGrid>(QStringLiteral("grdFileNames")); }
     IButton& ctlOptTextDatei(int index) {
         return get<IButton>(QStringLiteral("ctlOptTextDatei"), index);
@@ -20,7 +26,7 @@ class frmOptTextDateien : public WindowContract {
     IButton& cmdAbbrechen() { return get<IButton>(QStringLiteral("cmdAbbrechen")); }
     IFileDialog& ctlCommonDialog() { return get<IFileDialog>(QStringLiteral("ctlCommonDialog")); }
 
-    // A choice for the grid's current row: its file or path (0) or its name's beginning (1).
+    // A choice for the grid's current row: its file or path, or its name's beginning (Auswahl).
     std::function<void(int row, int index)> evTextDateiAuswaehlen;
     // OK: the rows are to be taken over; the window closes afterwards.
     std::function<void()> evTextDateienUebernehmen;

@@ -15,13 +15,16 @@ WindowDecl makeDeclaration() {
     d.caption = QStringLiteral("Auftragsverlauf");
     d.width = 760;
     d.height = 420;
-    d.controls << control("lblLabel", 0, ControlKind::Label, "Auftragsname: ")
+    d.controls << control("lblLabel", frmVerlauf::Lbl::Auftragsname, ControlKind::Label,
+                          "Auftragsname: ")
                << control("grdData", -1, ControlKind::Grid)
-               << control("lblLabel", 1, ControlKind::Label)
-               << control("cmdCommandButton", 1, ControlKind::Button, "Filter", "Filter setzen")
-               << control("cmdCommandButton", 2, ControlKind::Button, "Verlauf löschen",
-                          "Löscht der Verlauf")
-               << control("cmdCommandButton", 0, ControlKind::Button, "Schließen");
+               << control("lblLabel", frmVerlauf::Lbl::Ausfuehrungen, ControlKind::Label)
+               << control("cmdCommandButton", frmVerlauf::Cmd::Filter, ControlKind::Button,
+                          "Filter", "Filter setzen")
+               << control("cmdCommandButton", frmVerlauf::Cmd::Loeschen, ControlKind::Button,
+                          "Verlauf löschen", "Löscht der Verlauf")
+               << control("cmdCommandButton", frmVerlauf::Cmd::Schliessen, ControlKind::Button,
+                          "Schließen");
     return d;
 }
 

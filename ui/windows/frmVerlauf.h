@@ -13,13 +13,24 @@ class frmVerlauf : public WindowContract {
     static const WindowDecl& declaration();
     explicit frmVerlauf(std::unique_ptr<IWindow> window);
 
+    // The indexes of the control arrays, by what each control is for.
+    struct Cmd {
+        static constexpr int Schliessen = 0;
+        static constexpr int Filter = 1;
+        static constexpr int Loeschen = 2;
+    };
+    struct Lbl {
+        static constexpr int Auftragsname = 0;
+        static constexpr int Ausfuehrungen = 1;  // the count of the runs and the filter
+    };
+
     ILabel& lblLabel(int index) { return get<ILabel>(QStringLiteral("lblLabel"), index); }
     IGrid& grdData() { return get<IGrid>(QStringLiteral("grdData")); }
     IButton& cmdCommandButton(int index) {
         return get<IButton>(QStringLiteral("cmdCommandButton"), index);
     }
 
-    // Schließen (0), Filter (1), Verlauf löschen (2).
+    // One of Cmd.
     std::function<void(int index)> evFrmVerlaufCMDButtonClicked;
     // Declared for the directory button no control raises; VerzeichnisOeffnen raises it.
     std::function<void()> evFrmVerlaufCMDButtonVerzeichnisOeffnenClicked;

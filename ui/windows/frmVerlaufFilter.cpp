@@ -15,11 +15,14 @@ WindowDecl makeDeclaration() {
     d.caption = QStringLiteral("Filter auswählen");
     d.width = 340;
     d.height = 140;
-    d.controls << control("cboComboBox", 0, ControlKind::ComboBox, "Zeitraum")
-               << control("cboComboBox", 1, ControlKind::ComboBox, "Zeitraum")
-               << control("cboComboBox", 2, ControlKind::ComboBox, "Typ")
-               << control("cmdCommandButton", 0, ControlKind::Button, "OK")
-               << control("cmdCommandButton", 1, ControlKind::Button, "Abbrechen");
+    d.controls << control("cboComboBox", frmVerlaufFilter::Cbo::ZeitWert, ControlKind::ComboBox,
+                          "Zeitraum")
+               << control("cboComboBox", frmVerlaufFilter::Cbo::ZeitEinheit, ControlKind::ComboBox,
+                          "Zeitraum")
+               << control("cboComboBox", frmVerlaufFilter::Cbo::Typ, ControlKind::ComboBox, "Typ")
+               << control("cmdCommandButton", frmVerlaufFilter::Cmd::Ok, ControlKind::Button, "OK")
+               << control("cmdCommandButton", frmVerlaufFilter::Cmd::Abbrechen, ControlKind::Button,
+                          "Abbrechen");
     return d;
 }
 

@@ -11,6 +11,17 @@ class frmVerlaufFilter : public WindowContract {
     static const WindowDecl& declaration();
     explicit frmVerlaufFilter(std::unique_ptr<IWindow> window);
 
+    // The indexes of the control arrays, by what each control is for.
+    struct Cmd {
+        static constexpr int Ok = 0;
+        static constexpr int Abbrechen = 1;
+    };
+    struct Cbo {
+        static constexpr int ZeitWert = 0;
+        static constexpr int ZeitEinheit = 1;
+        static constexpr int Typ = 2;
+    };
+
     IComboBox& cboComboBox(int index) {
         return get<IComboBox>(QStringLiteral("cboComboBox"), index);
     }
@@ -18,7 +29,7 @@ class frmVerlaufFilter : public WindowContract {
         return get<IButton>(QStringLiteral("cmdCommandButton"), index);
     }
 
-    // OK (0) and Abbrechen (1).
+    // One of Cmd.
     std::function<void(int index)> evFrmFilterfCMDButtonClicked;
 
   private:

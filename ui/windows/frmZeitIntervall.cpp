@@ -5,8 +5,6 @@ using contract::is;
 
 namespace {
 
-constexpr int kAbbrechen = 1;
-
 class Declaration {
   public:
     WindowDecl build() {
@@ -16,61 +14,67 @@ class Declaration {
         d_.width = 560;
         d_.height = 520;
 
-        add("fraFrame", 0, ControlKind::Frame, "Häufigkeit");
-        within("fraFrame", 0);
-        option("optHaeufigkeit", 0, "Täglich", "Haeufigkeit");
-        option("optHaeufigkeit", 1, "Wöchentlich", "Haeufigkeit");
-        option("optHaeufigkeit", 2, "Monatlich", "Haeufigkeit");
+        add("fraFrame", frmZeitIntervall::Fra::Haeufigkeit, ControlKind::Frame, "Häufigkeit");
+        within("fraFrame", frmZeitIntervall::Fra::Haeufigkeit);
+        option("optHaeufigkeit", frmZeitIntervall::Haeufigkeit::Taeglich, "Täglich", "Haeufigkeit");
+        option("optHaeufigkeit", frmZeitIntervall::Haeufigkeit::Woechentlich, "Wöchentlich",
+               "Haeufigkeit");
+        option("optHaeufigkeit", frmZeitIntervall::Haeufigkeit::Monatlich, "Monatlich",
+               "Haeufigkeit");
 
-        add("fraFrame", 1, ControlKind::Frame, "Täglich", "", "");
-        within("fraFrame", 1);
-        add("cboComboBox", 0, ControlKind::ComboBox, "Alle");
-        add("lblLabel", 0, ControlKind::Label, "Tag(e)");
+        add("fraFrame", frmZeitIntervall::Fra::Taeglich, ControlKind::Frame, "Täglich", "", "");
+        within("fraFrame", frmZeitIntervall::Fra::Taeglich);
+        add("cboComboBox", frmZeitIntervall::Cbo::TageAlle, ControlKind::ComboBox, "Alle");
+        add("lblLabel", frmZeitIntervall::Lbl::Tage, ControlKind::Label, "Tag(e)");
 
-        add("fraFrame", 5, ControlKind::Frame, "Wöchentlich", "", "");
-        within("fraFrame", 5);
-        add("cboComboBox", 8, ControlKind::ComboBox, "Alle");
-        add("lblLabel", 3, ControlKind::Label, "Woche(n) am:");
+        add("fraFrame", frmZeitIntervall::Fra::Woechentlich, ControlKind::Frame, "Wöchentlich", "",
+            "");
+        within("fraFrame", frmZeitIntervall::Fra::Woechentlich);
+        add("cboComboBox", frmZeitIntervall::Cbo::WochenAlle, ControlKind::ComboBox, "Alle");
+        add("lblLabel", frmZeitIntervall::Lbl::WochenAm, ControlKind::Label, "Woche(n) am:");
         const char* tage[] = {"Mo", "Di", "Mi", "Do", "Fr", "Sa", "So"};
         for (int i = 0; i < 7; ++i) {
             add("chkCheckBox", i, ControlKind::CheckBox, tage[i]);
         }
 
-        add("fraFrame", 2, ControlKind::Frame, "Monatlich", "", "");
-        within("fraFrame", 2);
-        option("optMonatlich", 0, "", "Monatlich");
-        add("cboComboBox", 1, ControlKind::ComboBox, "Tag");
-        add("cboComboBox", 2, ControlKind::ComboBox, "alle");
-        add("lblLabel", 1, ControlKind::Label, "Monat(e)");
-        option("optMonatlich", 1, "", "Monatlich");
-        add("cboComboBox", 3, ControlKind::ComboBox, "Am");
-        add("cboComboBox", 4, ControlKind::ComboBox);
-        add("cboComboBox", 5, ControlKind::ComboBox, "alle");
-        add("lblLabel", 2, ControlKind::Label, "Monat(e)");
+        add("fraFrame", frmZeitIntervall::Fra::Monatlich, ControlKind::Frame, "Monatlich", "", "");
+        within("fraFrame", frmZeitIntervall::Fra::Monatlich);
+        option("optMonatlich", frmZeitIntervall::Monatlich::Tag, "", "Monatlich");
+        add("cboComboBox", frmZeitIntervall::Cbo::MonatTag, ControlKind::ComboBox, "Tag");
+        add("cboComboBox", frmZeitIntervall::Cbo::MonateAlle, ControlKind::ComboBox, "alle");
+        add("lblLabel", frmZeitIntervall::Lbl::MonateTag, ControlKind::Label, "Monat(e)");
+        option("optMonatlich", frmZeitIntervall::Monatlich::Am, "", "Monatlich");
+        add("cboComboBox", frmZeitIntervall::Cbo::AmErster, ControlKind::ComboBox, "Am");
+        add("cboComboBox", frmZeitIntervall::Cbo::AmWochentag, ControlKind::ComboBox);
+        add("cboComboBox", frmZeitIntervall::Cbo::AmMonateAlle, ControlKind::ComboBox, "alle");
+        add("lblLabel", frmZeitIntervall::Lbl::MonateAm, ControlKind::Label, "Monat(e)");
 
-        add("fraFrame", 3, ControlKind::Frame, "Häufigkeit pro Tag", "", "");
-        within("fraFrame", 3);
-        option("optHaeufigkeit", 3, "Einmalig um:", "HaeufigkeitProTag");
-        add("ctlMaskEdBox", 0, ControlKind::TimeBox);
-        option("optHaeufigkeit", 4, "Jede:", "HaeufigkeitProTag");
-        add("cboComboBox", 6, ControlKind::ComboBox, "Am");
-        add("cboComboBox", 7, ControlKind::ComboBox);
-        add("lblLabel", 4, ControlKind::Label, "Startet um");
-        add("ctlMaskEdBox", 1, ControlKind::TimeBox);
-        add("lblLabel", 5, ControlKind::Label, "Endet um");
-        add("ctlMaskEdBox", 2, ControlKind::TimeBox);
+        add("fraFrame", frmZeitIntervall::Fra::ProTag, ControlKind::Frame, "Häufigkeit pro Tag", "",
+            "");
+        within("fraFrame", frmZeitIntervall::Fra::ProTag);
+        option("optHaeufigkeit", frmZeitIntervall::Haeufigkeit::EinmaligUm,
+               "Einmalig um:", "HaeufigkeitProTag");
+        add("ctlMaskEdBox", frmZeitIntervall::Zeit::EinmaligUm, ControlKind::TimeBox);
+        option("optHaeufigkeit", frmZeitIntervall::Haeufigkeit::Jede, "Jede:", "HaeufigkeitProTag");
+        add("cboComboBox", frmZeitIntervall::Cbo::JedeAnzahl, ControlKind::ComboBox, "Am");
+        add("cboComboBox", frmZeitIntervall::Cbo::JedeEinheit, ControlKind::ComboBox);
+        add("lblLabel", frmZeitIntervall::Lbl::StartetUm, ControlKind::Label, "Startet um");
+        add("ctlMaskEdBox", frmZeitIntervall::Zeit::StartetUm, ControlKind::TimeBox);
+        add("lblLabel", frmZeitIntervall::Lbl::EndetUm, ControlKind::Label, "Endet um");
+        add("ctlMaskEdBox", frmZeitIntervall::Zeit::EndetUm, ControlKind::TimeBox);
 
-        add("fraFrame", 4, ControlKind::Frame, "Dauer", "", "");
-        within("fraFrame", 4);
-        add("ctlDatePicker", 0, ControlKind::DatePicker, "Anfangsdatum");
-        option("optEnddatum", 0, "Enddatum:", "Enddatum");
-        add("ctlDatePicker", 1, ControlKind::DatePicker);
-        option("optEnddatum", 1, "Kein Enddatum", "Enddatum");
+        add("fraFrame", frmZeitIntervall::Fra::Dauer, ControlKind::Frame, "Dauer", "", "");
+        within("fraFrame", frmZeitIntervall::Fra::Dauer);
+        add("ctlDatePicker", frmZeitIntervall::Datum::Anfang, ControlKind::DatePicker,
+            "Anfangsdatum");
+        option("optEnddatum", frmZeitIntervall::Enddatum::Mit, "Enddatum:", "Enddatum");
+        add("ctlDatePicker", frmZeitIntervall::Datum::Ende, ControlKind::DatePicker);
+        option("optEnddatum", frmZeitIntervall::Enddatum::Ohne, "Kein Enddatum", "Enddatum");
 
         within("", -1);
-        add("lblLabel", 6, ControlKind::Label);
-        add("cmdCommandButton", 0, ControlKind::Button, "OK");
-        add("cmdCommandButton", 1, ControlKind::Button, "Abbrechen");
+        add("lblLabel", frmZeitIntervall::Lbl::Auftragsname, ControlKind::Label);
+        add("cmdCommandButton", frmZeitIntervall::Cmd::Ok, ControlKind::Button, "OK");
+        add("cmdCommandButton", frmZeitIntervall::Cmd::Abbrechen, ControlKind::Button, "Abbrechen");
         return d_;
     }
 
@@ -113,7 +117,7 @@ frmZeitIntervall::frmZeitIntervall(std::unique_ptr<IWindow> w) : WindowContract(
     WindowEvents events;
     events.onKeyDown = [this](int keyCode, int shift) { helpKey(keyCode, shift); };
     events.onQueryUnload = [this](bool&) {
-        fire(evFrmZeitintervallCommandButtonClicked, kAbbrechen);
+        fire(evFrmZeitintervallCommandButtonClicked, Cmd::Abbrechen);
     };
     listen(std::move(events));
 }

@@ -12,6 +12,67 @@ class frmZeitIntervall : public WindowContract {
     static const WindowDecl& declaration();
     explicit frmZeitIntervall(std::unique_ptr<IWindow> window);
 
+    // The indexes of the control arrays, by what each control is for.
+    struct Cmd {
+        static constexpr int Ok = 0;
+        static constexpr int Abbrechen = 1;
+    };
+    struct Fra {
+        static constexpr int Haeufigkeit = 0;
+        static constexpr int Taeglich = 1;
+        static constexpr int Monatlich = 2;
+        static constexpr int ProTag = 3;
+        static constexpr int Dauer = 4;
+        static constexpr int Woechentlich = 5;
+    };
+    struct Haeufigkeit {
+        static constexpr int Taeglich = 0;
+        static constexpr int Woechentlich = 1;
+        static constexpr int Monatlich = 2;
+        static constexpr int EinmaligUm = 3;
+        static constexpr int Jede = 4;
+    };
+    struct Monatlich {
+        static constexpr int Tag = 0;
+        static constexpr int Am = 1;
+    };
+    struct Enddatum {
+        static constexpr int Mit = 0;
+        static constexpr int Ohne = 1;
+    };
+    // The combo boxes: "Alle … Tag(e)", the day and "alle … Monat(e)" of a monthly plan, its
+    // "Am" (first … last), weekday and months, the count and unit of "Jede:", "Alle … Woche(n)".
+    struct Cbo {
+        static constexpr int TageAlle = 0;
+        static constexpr int MonatTag = 1;
+        static constexpr int MonateAlle = 2;
+        static constexpr int AmErster = 3;
+        static constexpr int AmWochentag = 4;
+        static constexpr int AmMonateAlle = 5;
+        static constexpr int JedeAnzahl = 6;
+        static constexpr int JedeEinheit = 7;
+        static constexpr int WochenAlle = 8;
+    };
+    struct Lbl {
+        static constexpr int Tage = 0;
+        static constexpr int MonateTag = 1;
+        static constexpr int MonateAm = 2;
+        static constexpr int WochenAm = 3;
+        static constexpr int StartetUm = 4;
+        static constexpr int EndetUm = 5;
+        static constexpr int Auftragsname = 6;
+    };
+    // The time boxes: "Einmalig um:", "Startet um" and "Endet um".
+    struct Zeit {
+        static constexpr int EinmaligUm = 0;
+        static constexpr int StartetUm = 1;
+        static constexpr int EndetUm = 2;
+    };
+    struct Datum {
+        static constexpr int Anfang = 0;
+        static constexpr int Ende = 1;
+    };
+
     IFrame& fraFrame(int index) { return get<IFrame>(QStringLiteral("fraFrame"), index); }
     IOptionButton& optHaeufigkeit(int index) {
         return get<IOptionButton>(QStringLiteral("optHaeufigkeit"), index);

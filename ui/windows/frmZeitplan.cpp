@@ -5,8 +5,6 @@ using contract::is;
 
 namespace {
 
-constexpr int kAbbrechen = 1;
-
 class Declaration {
   public:
     WindowDecl build() {
@@ -16,22 +14,22 @@ class Declaration {
         d_.width = 460;
         d_.height = 320;
 
-        add("txtTextBox", 0, ControlKind::TextBox, "Name");
+        add("txtTextBox", frmZeitplan::Txt::Name, ControlKind::TextBox, "Name");
         add("chkCheckBox", -1, ControlKind::CheckBox, "Aktiviert");
-        add("frmFrame", 0, ControlKind::Frame, "Zeitplantyp");
-        container_ = QStringLiteral("frmFrame(0)");
-        option(2, "Einmal");
+        add("frmFrame", frmZeitplan::Fra::Zeitplantyp, ControlKind::Frame, "Zeitplantyp");
+        container_ = QStringLiteral("frmFrame(%1)").arg(frmZeitplan::Fra::Zeitplantyp);
+        option(frmZeitplan::Opt::Einmal, "Einmal");
         add("ctlDatePicker", -1, ControlKind::DatePicker, "Am (Datum)");
-        add("lblLabel", 1, ControlKind::Label, "Uhr (Uhrzeit)");
+        add("lblLabel", frmZeitplan::Lbl::Uhrzeit, ControlKind::Label, "Uhr (Uhrzeit)");
         add("ctlMaskEdBox", -1, ControlKind::TimeBox);
-        option(3, "Wiederholt");
-        add("frmFrame", 1, ControlKind::Frame);
-        container_ = QStringLiteral("frmFrame(1)");
-        add("lblLabel", 0, ControlKind::Label);
-        add("cmdCommandButton", 2, ControlKind::Button, "Ändern...");
+        option(frmZeitplan::Opt::Wiederholt, "Wiederholt");
+        add("frmFrame", frmZeitplan::Fra::Intervall, ControlKind::Frame);
+        container_ = QStringLiteral("frmFrame(%1)").arg(frmZeitplan::Fra::Intervall);
+        add("lblLabel", frmZeitplan::Lbl::Intervall, ControlKind::Label);
+        add("cmdCommandButton", frmZeitplan::Cmd::Aendern, ControlKind::Button, "Ändern...");
         container_.clear();
-        add("cmdCommandButton", 0, ControlKind::Button, "OK");
-        add("cmdCommandButton", 1, ControlKind::Button, "Abbrechen");
+        add("cmdCommandButton", frmZeitplan::Cmd::Ok, ControlKind::Button, "OK");
+        add("cmdCommandButton", frmZeitplan::Cmd::Abbrechen, ControlKind::Button, "Abbrechen");
         return d_;
     }
 
@@ -69,7 +67,7 @@ frmZeitplan::frmZeitplan(std::unique_ptr<IWindow> w) : WindowContract(std::move(
     // The close box is Abbrechen: the controller closes the window itself.
     events.onQueryUnload = [this](bool& cancel) {
         cancel = true;
-        fire(evFrmZeitplanCommandButtonClicked, kAbbrechen);
+        fire(evFrmZeitplanCommandButtonClicked, Cmd::Abbrechen);
     };
     listen(std::move(events));
 }
