@@ -103,7 +103,7 @@ class RecurrenceLayout {
             comboRow(grid, 0, 0, I::Cbo::WochenAlle);
             put(grid, widget("lblLabel", I::Lbl::WochenAm), 0, 2, 2);
             auto* days = new QHBoxLayout;
-            for (int index = 0; index < 7; ++index) {
+            for (int index = I::Tag::Montag; index <= I::Tag::Sonntag; ++index) {
                 addTo(days, widget("chkCheckBox", index));
             }
             grid->addLayout(days, 1, 0, 1, 5);

@@ -24,17 +24,17 @@ const QList<QPair<QString, long>>& werkzeugBilder() {
 // The field of a column, -1 for the columns the window passes over.
 int feldDerSpalte(const QString& sSpalte, long lLogArt) {
     if (sSpalte == QLatin1String("Herkunft")) {
-        return lLogArt != logdaten::kAuftraege ? 0 : -1;
+        return lLogArt != logdaten::kAuftraege ? frmLogDatenDetails::Feld::Herkunft : -1;
     }
     if (sSpalte == QLatin1String("Auftrag Kennung")) {
-        return lLogArt == logdaten::kAuftraege ? 0 : -1;
+        return lLogArt == logdaten::kAuftraege ? frmLogDatenDetails::Feld::Herkunft : -1;
     }
     static const QStringList weitere{QStringLiteral("Mitarbeiter"), QStringLiteral("Datum/Uhrzeit"),
                                      QStringLiteral("Kategorie"),   QStringLiteral("Auftragsart"),
                                      QStringLiteral("Name"),        QStringLiteral("Text"),
                                      QStringLiteral("Zusatz")};
     const int i = static_cast<int>(weitere.indexOf(sSpalte));
-    return i < 0 ? -1 : i + 1;
+    return i < 0 ? -1 : i + frmLogDatenDetails::Feld::Mitarbeiter;
 }
 
 // A cell as the browser shows it: dates the German way, the rest as it stands.
@@ -74,7 +74,8 @@ void cLogDaten::mShowLogDatenDetails() {
         }
         frmLogDatenDetails& frm = *moFrmLogDatenDetails;
         if (mlLogArt == logdaten::kAuftraege) {
-            frm.txtDetails(0).setCaption(QStringLiteral("Job Kennung"));
+            frm.txtDetails(frmLogDatenDetails::Feld::Herkunft)
+                .setCaption(QStringLiteral("Job Kennung"));
         }
         mLogDetailsErmitteln();
 

@@ -35,10 +35,10 @@ constexpr std::array<Eintrag, 2> kEinheiten{
     {{"Minute(n)", TagesEinheit::kMinuten}, {"Stunde(n)", TagesEinheit::kStunden}}};
 
 // The check boxes run from Monday (0) to Sunday (6); the mask has Sunday as its lowest bit.
-constexpr std::array<std::int32_t, 7> kTagesBit{WochentagBit::kMontag,   WochentagBit::kDienstag,
-                                                WochentagBit::kMittwoch, WochentagBit::kDonnerstag,
-                                                WochentagBit::kFreitag,  WochentagBit::kSamstag,
-                                                WochentagBit::kSonntag};
+constexpr std::array<std::int32_t, frmZeitIntervall::Tag::Sonntag + 1> kTagesBit{
+    WochentagBit::kMontag,     WochentagBit::kDienstag, WochentagBit::kMittwoch,
+    WochentagBit::kDonnerstag, WochentagBit::kFreitag,  WochentagBit::kSamstag,
+    WochentagBit::kSonntag};
 
 template <std::size_t N>
 void fuelle(IComboBox& cbo, const std::array<Eintrag, N>& eintraege, long lKey) {
@@ -99,23 +99,23 @@ void cAdminJob::mInitCBO_MinuteStunde(int Index, long lKey) {
 }
 
 std::int32_t cAdminJob::mlGetWochentage() {
-    return withErrorExit(QStringLiteral("mlGetWochentage"), kKlasse, std::int32_t{0},
-                         [&](ErrorExit&) {
-                             frmZeitIntervall& f = required(mofrmzeitIntervall);
-                             std::int32_t lMaske = 0;
-                             for (int i = 0; i < 7; ++i) {
-                                 if (f.chkCheckBox(i).Value() == 1) {
-                                     lMaske += kTagesBit[i];
-                                 }
-                             }
-                             return lMaske;
-                         });
+    return withErrorExit(
+        QStringLiteral("mlGetWochentage"), kKlasse, std::int32_t{0}, [&](ErrorExit&) {
+            frmZeitIntervall& f = required(mofrmzeitIntervall);
+            std::int32_t lMaske = 0;
+            for (int i = frmZeitIntervall::Tag::Montag; i <= frmZeitIntervall::Tag::Sonntag; ++i) {
+                if (f.chkCheckBox(i).Value() == 1) {
+                    lMaske += kTagesBit[i];
+                }
+            }
+            return lMaske;
+        });
 }
 
 void cAdminJob::mSetzeWochentage(std::int32_t lWochentage) {
     withErrorExit(QStringLiteral("mSetzeWochentage"), kKlasse, 0, [&](ErrorExit&) {
         frmZeitIntervall& f = required(mofrmzeitIntervall);
-        for (int i = 0; i < 7; ++i) {
+        for (int i = frmZeitIntervall::Tag::Montag; i <= frmZeitIntervall::Tag::Sonntag; ++i) {
             f.chkCheckBox(i).setValue((lWochentage & kTagesBit[i]) != 0 ? 1 : 0);
         }
         return 0;
@@ -125,7 +125,7 @@ void cAdminJob::mSetzeWochentage(std::int32_t lWochentage) {
 bool cAdminJob::mbCheckWochentag() {
     return withErrorExit(QStringLiteral("mbCheckWochentag"), kKlasse, false, [&](ErrorExit&) {
         frmZeitIntervall& f = required(mofrmzeitIntervall);
-        for (int i = 0; i < 7; ++i) {
+        for (int i = frmZeitIntervall::Tag::Montag; i <= frmZeitIntervall::Tag::Sonntag; ++i) {
             if (f.chkCheckBox(i).Value() == 1) {
                 return true;
             }

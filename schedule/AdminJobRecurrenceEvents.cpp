@@ -191,7 +191,7 @@ QString cAdminJob::msCheckValuesFRMZeitintervall() {
             }
             if (f.optHaeufigkeit(frmZeitIntervall::Haeufigkeit::Woechentlich).Value() &&
                 !mbCheckWochentag()) {
-                f.chkCheckBox(0).SetFocus();
+                f.chkCheckBox(frmZeitIntervall::Tag::Montag).SetFocus();
                 return kKeinWochentag;
             }
             return QString();

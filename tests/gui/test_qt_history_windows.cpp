@@ -109,7 +109,7 @@ TEST(QtHistoryWindows, TheQuestionShowsItsBoldMarksAndTellsTheAnswer) {
     ASSERT_NE(label, nullptr);
     EXPECT_TRUE(label->text().contains("<b>&lt;Status&gt;</b>"));
     EXPECT_EQ(label->textFormat(), Qt::RichText);
-    QTest::mouseClick(s.widget("cmdProtBuch", 1), Qt::LeftButton);
+    QTest::mouseClick(s.widget("cmdProtBuch", frmBuchLogAbfrage::Prot::Buchungen), Qt::LeftButton);
     EXPECT_TRUE(s.form->pbBuchProtokoll());
     EXPECT_FALSE(s.form->window().Visible());
 }

@@ -7,6 +7,7 @@
 #include "logdata/LogDatenTexte.h"
 #include "tests/logdata/LogDatenTestKit.h"
 #include "ui/windows/frmLogDatenDel.h"
+#include "ui/windows/frmLogDatenDetails.h"
 
 using app_test::World;
 using logdaten_test::Driver;
@@ -134,8 +135,9 @@ TEST_F(LogDaten, DetailsStepAndTellWhenNothingFollows) {
     driver.steps[QStringLiteral("frmLogDatenDetails")] = [&](HeadlessWindow&) {
         auto frm = A::details(o);
         EXPECT_EQ(A::aktZeile(o), 2);
-        EXPECT_EQ(frm->txtDetails(0).Text(), "Starter");
-        EXPECT_EQ(frm->txtDetails(2).Text(), "21.11.2026 06:00:00");
+        EXPECT_EQ(frm->txtDetails(frmLogDatenDetails::Feld::Herkunft).Text(), "Starter");
+        EXPECT_EQ(frm->txtDetails(frmLogDatenDetails::Feld::DatumUhrzeit).Text(),
+                  "21.11.2026 06:00:00");
         EXPECT_EQ(frm->tbrMain().Tool("barMain", "AktVon")->Caption(), "2/2");
         // A step past the end is refused with the message and changes nothing.
         A::nav(o, QStringLiteral("next"));
@@ -146,7 +148,7 @@ TEST_F(LogDaten, DetailsStepAndTellWhenNothingFollows) {
         EXPECT_EQ(world.ui->boxes.back().flags, 64);
         A::nav(o, QStringLiteral("previous"));
         EXPECT_EQ(A::aktZeile(o), 1);
-        EXPECT_EQ(frm->txtDetails(0).Text(), "Dienst");
+        EXPECT_EQ(frm->txtDetails(frmLogDatenDetails::Feld::Herkunft).Text(), "Dienst");
         ISelectionObject& auswahl = A::browser(o)->ctlLogDaten().Auswahl();
         EXPECT_EQ(auswahl.Row(), 1);
         EXPECT_EQ(auswahl.SelCount(), 1);

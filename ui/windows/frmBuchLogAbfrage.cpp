@@ -16,8 +16,11 @@ WindowDecl makeDeclaration() {
     d.height = 170;
     ControlDecl text = control("ctlBuchunglog", -1, ControlKind::Label);
     text.boldMarks = true;
-    d.controls << text << control("cmdProtBuch", 0, ControlKind::Button, "Status")
-               << control("cmdProtBuch", 1, ControlKind::Button, "Buchungen");
+    d.controls << text
+               << control("cmdProtBuch", frmBuchLogAbfrage::Prot::Status, ControlKind::Button,
+                          "Status")
+               << control("cmdProtBuch", frmBuchLogAbfrage::Prot::Buchungen, ControlKind::Button,
+                          "Buchungen");
     return d;
 }
 
@@ -34,7 +37,7 @@ frmBuchLogAbfrage::frmBuchLogAbfrage(std::unique_ptr<IWindow> w) : WindowContrac
 
 void frmBuchLogAbfrage::onControl(const ControlEvent& e) {
     if (e.type == EventType::Click && is(e, "cmdProtBuch")) {
-        buchProtokoll_ = e.index == 1;
+        buchProtokoll_ = e.index == Prot::Buchungen;
         window().Unload();
     }
 }

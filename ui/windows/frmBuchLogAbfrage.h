@@ -11,6 +11,12 @@ class frmBuchLogAbfrage : public WindowContract {
     static const WindowDecl& declaration();
     explicit frmBuchLogAbfrage(std::unique_ptr<IWindow> window);
 
+    // The indexes of the two buttons: the import's status log, or the bookings' log.
+    struct Prot {
+        static constexpr int Status = 0;
+        static constexpr int Buchungen = 1;
+    };
+
     // A description with simple bold marks "<b>" and "</b>".
     ILabel& ctlBuchunglog() { return get<ILabel>(QStringLiteral("ctlBuchunglog")); }
     IButton& cmdProtBuch(int index) { return get<IButton>(QStringLiteral("cmdProtBuch"), index); }

@@ -27,7 +27,7 @@ WindowDecl makeDeclaration() {
         field.index = i;
         field.kind = ControlKind::TextBox;
         field.caption = QString::fromUtf8(captions[i]);
-        field.multiLine = i >= 6;
+        field.multiLine = i >= frmLogDatenDetails::Feld::Text;
         d.controls << field;
     }
 

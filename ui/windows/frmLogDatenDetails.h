@@ -11,8 +11,18 @@ class frmLogDatenDetails : public WindowContract {
     static const WindowDecl& declaration();
     explicit frmLogDatenDetails(std::unique_ptr<IWindow> window);
 
-    // 0 Herkunft (Job Kennung), 1 Mitarbeiter, 2 Datum/Uhrzeit, 3 Kategorie, 4 Art, 5 Name,
-    // 6 Text, 7 Zusatz.
+    // The indexes of the fields, by what each shows.
+    struct Feld {
+        static constexpr int Herkunft = 0;  // "Job Kennung" for the jobs' log
+        static constexpr int Mitarbeiter = 1;
+        static constexpr int DatumUhrzeit = 2;
+        static constexpr int Kategorie = 3;
+        static constexpr int Art = 4;
+        static constexpr int Name = 5;
+        static constexpr int Text = 6;
+        static constexpr int Zusatz = 7;
+    };
+
     ITextBox& txtDetails(int index) { return get<ITextBox>(QStringLiteral("txtDetails"), index); }
     IToolBar& tbrMain() { return get<IToolBar>(QStringLiteral("tbrMain")); }
 

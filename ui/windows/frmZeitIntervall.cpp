@@ -33,7 +33,7 @@ class Declaration {
         add("cboComboBox", frmZeitIntervall::Cbo::WochenAlle, ControlKind::ComboBox, "Alle");
         add("lblLabel", frmZeitIntervall::Lbl::WochenAm, ControlKind::Label, "Woche(n) am:");
         const char* tage[] = {"Mo", "Di", "Mi", "Do", "Fr", "Sa", "So"};
-        for (int i = 0; i < 7; ++i) {
+        for (int i = frmZeitIntervall::Tag::Montag; i <= frmZeitIntervall::Tag::Sonntag; ++i) {
             add("chkCheckBox", i, ControlKind::CheckBox, tage[i]);
         }
 

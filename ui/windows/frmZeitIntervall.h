@@ -72,6 +72,11 @@ class frmZeitIntervall : public WindowContract {
         static constexpr int Anfang = 0;
         static constexpr int Ende = 1;
     };
+    // The check boxes of the weekdays, from Monday to Sunday.
+    struct Tag {
+        static constexpr int Montag = 0;
+        static constexpr int Sonntag = 6;
+    };
 
     IFrame& fraFrame(int index) { return get<IFrame>(QStringLiteral("fraFrame"), index); }
     IOptionButton& optHaeufigkeit(int index) {
