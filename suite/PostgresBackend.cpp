@@ -264,6 +264,9 @@ RaisedError PostgresBackend::failure(const QSqlError& error, const QString& show
     const long number = connectionLost(error) ? kCantOpen
                         : state.isEmpty()     ? ErrNumber::Database
                                               : resultCode(state);
+    if (number == kBusy) {
+        return SqlErrors::lockWait(number, text);
+    }
     return SqlErrors::raised(
         number, shown.isEmpty() ? text : text + QStringLiteral("\r\n") + shown.trimmed());
 }

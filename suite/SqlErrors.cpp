@@ -12,6 +12,11 @@ RaisedError raised(long number, const QString& description) {
     return RaisedError(number, description, QString::fromLatin1(source));
 }
 
+RaisedError lockWait(long number, const QString& driverText) {
+    return raised(
+        number, driverText.isEmpty() ? kLockWait : kLockWait + QStringLiteral("\r\n") + driverText);
+}
+
 RaisedError fromDriver(const QSqlError& error, const QString& sql) {
     bool ok = false;
     // The primary result code; the connection reports extended ones.
@@ -25,6 +30,10 @@ RaisedError fromDriver(const QSqlError& error, const QString& sql) {
         text = driverText;
     } else if (!driverText.isEmpty()) {
         text += QStringLiteral(" (") + driverText + u')';
+    }
+    // SQLITE_BUSY and SQLITE_LOCKED: another connection kept its lock past the wait.
+    if (number == 5 || number == 6) {
+        return lockWait(number, text);
     }
     return raised(number, withStatement(text, sql));
 }

@@ -21,6 +21,12 @@ constexpr long ObjectClosed = 3704;
 constexpr long NoConnection = 3709;
 
 RaisedError raised(long number, const QString& description);
+// A lock wait that ended without the lock (SQLite busy, a server's lock timeout): what the
+// user can do, then the driver's own words on a line of their own; never the statement.
+inline const QString kLockWait = QStringLiteral(
+    "Die Daten werden gerade an einem anderen Arbeitsplatz gespeichert. Bitte versuchen Sie es "
+    "in einigen Sekunden erneut; Ihre Eingaben bleiben erhalten.");
+RaisedError lockWait(long number, const QString& driverText);
 // A failure of the driver: number is SQLite's error code, the description names the
 // statement.
 RaisedError fromDriver(const QSqlError& error, const QString& sql);

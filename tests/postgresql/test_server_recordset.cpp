@@ -227,6 +227,13 @@ TEST_F(ServerRecordset, AWriteWaitsForAnotherWorkstationsLockOnlyAsLongAsTheWart
     rs->WriteText("Name", "meine");
     const ErrObject err = failure([&] { rs->Update(0); });
     EXPECT_EQ(err.Number, 5);  // busy, as SQLite reports a lock held too long
+    EXPECT_TRUE(err.Description.startsWith(QStringLiteral(
+        "Die Daten werden gerade an einem anderen Arbeitsplatz gespeichert. Bitte versuchen Sie "
+        "es in einigen Sekunden erneut; Ihre Eingaben bleiben erhalten.\r\n")))
+        << err.Description.toStdString();
+    // The driver's words close the message: no statement follows them.
+    EXPECT_TRUE(err.Description.endsWith(QStringLiteral("(55P03)")))
+        << err.Description.toStdString();
     QSqlQuery(other).exec("COMMIT");
     rs->Update(0);
     EXPECT_EQ(stored("SELECT Name FROM tAutoJobJob"), "meine");
