@@ -59,11 +59,23 @@ class Reader {
             problem(QStringLiteral("\"%1\" muss ein Text sein.").arg(key));
             return std::nullopt;
         }
-        if (maxLength >= 0 && v.toString().size() > maxLength) {
+        const QString value = v.toString();
+        // Characters as the server counts them: a character beyond the 16-bit range is one.
+        if (maxLength >= 0 && value.toUcs4().size() > maxLength) {
             problem(QStringLiteral("\"%1\" ist länger als %2 Zeichen.").arg(key).arg(maxLength));
             return std::nullopt;
         }
-        return v.toString();
+        for (const QChar c : value) {
+            if (c.unicode() < 0x20 && c != u'\t' && c != u'\n' && c != u'\r') {
+                problem(QStringLiteral("\"%1\" enthält das Steuerzeichen U+%2, das nicht "
+                                       "gespeichert werden kann.")
+                            .arg(key, QString::number(c.unicode(), 16)
+                                          .toUpper()
+                                          .rightJustified(4, QLatin1Char('0'))));
+                return std::nullopt;
+            }
+        }
+        return value;
     }
 
     std::optional<bool> flag(const QString& key) {
@@ -500,12 +512,15 @@ ImportResult importJobs(Database& database, const QByteArray& document, long sta
             db.rollback();
             raiseError(text);
         }
+        QSet<QString> named;  // a name twice in the document clashes as one already stored
         for (const PlannedJob& job : jobs) {
             const QString& name = job.record.sName;
             result.imported << name;
-            if (lookups.jobNames.contains(name)) {
+            if ((lookups.jobNames.contains(name) || named.contains(name)) &&
+                !result.nameClashes.contains(name)) {
                 result.nameClashes << name;
             }
+            named.insert(name);
             if (job.needsPassword) {
                 result.needPassword << name;
             }

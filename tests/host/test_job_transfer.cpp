@@ -123,6 +123,29 @@ TEST_F(JobTransferTest, SelectedJobsOnlyInTheOrderOfTheirIds) {
               QStringLiteral("Verschlagwortung aller Belege"));
 }
 
+// 100 characters beyond 16 bits are 100 characters, and tab, line feed and carriage return
+// are text; a name twice in the document is told as a name that exists already, once.
+TEST_F(JobTransferTest, TheLimitsCountCharactersAndANameTwiceInTheDocumentIsTold) {
+    const QString emoji = QString::fromUtf8("😀").repeated(100);
+    QJsonObject doc =
+        parse(withJob(QStringLiteral("Lieferanten Autohaus Lindner"), [&](QJsonObject& j) {
+            j[QStringLiteral("name")] = emoji;
+            j[QStringLiteral("beschreibung")] = QStringLiteral("a\tb\r\nc");
+        }));
+    QJsonArray twice = doc[QStringLiteral("auftraege")].toArray();
+    twice.append(twice.at(0));
+    doc[QStringLiteral("auftraege")] = twice;
+    deleteAllJobs();
+    const ImportResult r = importJobs(program_->database(), bytesOf(doc), 1);
+    ASSERT_TRUE(r.written) << r.problems.join(QLatin1Char('\n')).toStdString();
+    EXPECT_EQ(r.imported, (QStringList{emoji, emoji}));
+    EXPECT_EQ(r.nameClashes, QStringList{emoji});
+    EXPECT_EQ(scalar(QStringLiteral("select count(*) from tAutoJobJob where Name = '%1' and "
+                                    "Beschreibung = 'a' || char(9) || 'b' || char(13, 10) || 'c'")
+                         .arg(emoji)),
+              QStringLiteral("2"));
+}
+
 TEST_F(JobTransferTest, ANameThatExistsIsAddedAsANewJobAndNamedInTheReport) {
     const QByteArray doc = exportJobs(program_->database(), {2});
     const ImportResult r = importJobs(program_->database(), doc, 1);
@@ -189,6 +212,21 @@ TEST_F(JobTransferTest, EveryRuleOfAJobIsToldWithTheJobsName) {
                         "Datenbank nicht.")},
         {[](QJsonObject& j) { j.remove(QStringLiteral("zeitplaene")); },
          QStringLiteral("Auftrag \"%1\": \"zeitplaene\" fehlt.")},
+        // Control characters would be cut off or refused by a database: never stored.
+        {[](QJsonObject& j) {
+             j[QStringLiteral("beschreibung")] =
+                 QStringLiteral("vorher") + QChar(0) + QStringLiteral("nachher");
+         },
+         QStringLiteral("Auftrag \"%1\": \"beschreibung\" enthält das Steuerzeichen U+0000, "
+                        "das nicht gespeichert werden kann.")},
+        {[](QJsonObject& j) { j[QStringLiteral("verzeichnis3")] = QStringLiteral("C:\x1b"); },
+         QStringLiteral("Auftrag \"%1\": \"verzeichnis3\" enthält das Steuerzeichen U+001B, "
+                        "das nicht gespeichert werden kann.")},
+        // Characters as the server counts them: 101 characters beyond 16 bits are too many.
+        {[](QJsonObject& j) {
+             j[QStringLiteral("fremdDateifilter")] = QString::fromUtf8("😀").repeated(101);
+         },
+         QStringLiteral("Auftrag \"%1\": \"fremdDateifilter\" ist länger als 100 Zeichen.")},
     };
     for (const Case& c : cases) {
         const QString expected = c.problem.arg(lindner);
