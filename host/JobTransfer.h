@@ -32,8 +32,10 @@ struct ImportResult {
 // the last editor.
 ImportResult importJobs(Database& database, const QByteArray& document, long staffId);
 
-// What the user is told after an import: the jobs written, the name clashes, the jobs that
-// need a password; or every problem of the document.
-QString importReport(const ImportResult& result);
+// What the user is told after an import: how many jobs were written, the name clashes, the
+// jobs that need a password, then the jobs written; or every problem of the document. Each
+// list shows at most `listed` lines and how many more there are (all when negative), so that
+// the report of thousands of jobs fits a message box.
+QString importReport(const ImportResult& result, int listed = -1);
 
 }  // namespace JobTransfer

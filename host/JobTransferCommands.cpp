@@ -24,6 +24,9 @@ namespace {
 
 const QString kFilter = QStringLiteral("Auftragsdefinitionen (*.json);;Alle Dateien (*)");
 
+// Lines of each list in the import's message box; the command line prints them all.
+constexpr int kListedInTheBox = 10;
+
 // Writes the whole file or leaves what was there; gives the reason of a failure.
 QString writeFile(const QString& file, const QByteArray& bytes) {
     if (DatabaseFiles::isDatabaseFile(file)) {
@@ -190,8 +193,8 @@ void importFromMenu(QWidget* parent, Database& database, long staffId,
         refresh();
     }
     QMessageBox box(result.written ? QMessageBox::Information : QMessageBox::Warning,
-                    QStringLiteral("Aufträge importieren"), importReport(result), QMessageBox::Ok,
-                    parent);
+                    QStringLiteral("Aufträge importieren"), importReport(result, kListedInTheBox),
+                    QMessageBox::Ok, parent);
     box.exec();
 }
 

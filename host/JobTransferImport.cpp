@@ -533,25 +533,32 @@ ImportResult importJobs(Database& database, const QByteArray& document, long sta
     return result;
 }
 
-QString importReport(const ImportResult& result) {
-    const auto quoted = [](const QStringList& names) {
+QString importReport(const ImportResult& result, int listed) {
+    // At most `listed` lines of a list (all when negative), then how many more there are.
+    const auto shortened = [listed](const QStringList& lines) {
+        if (listed < 0 || lines.size() <= listed) {
+            return lines.join(QLatin1Char('\n'));
+        }
+        return (lines.mid(0, listed)
+                << QStringLiteral("  … und %1 weitere").arg(lines.size() - listed))
+            .join(QLatin1Char('\n'));
+    };
+    const auto quoted = [&](const QStringList& names) {
         QStringList lines;
         for (const QString& n : names) {
             lines << QStringLiteral("  \"%1\"").arg(n);
         }
-        return lines.join(QLatin1Char('\n'));
+        return shortened(lines);
     };
     if (!result.written) {
-        return QStringLiteral("Es wurde kein Auftrag importiert:\n") +
-               result.problems.join(QLatin1Char('\n'));
+        return QStringLiteral("Es wurde kein Auftrag importiert:\n") + shortened(result.problems);
     }
+    // The summary first, the warnings next, the jobs written last.
     QString text = result.imported.isEmpty()
                        ? QStringLiteral("Das Dokument enthält keinen Auftrag.")
                    : result.imported.size() == 1
-                       ? QStringLiteral("1 Auftrag importiert:\n%1").arg(quoted(result.imported))
-                       : QStringLiteral("%1 Aufträge importiert:\n%2")
-                             .arg(result.imported.size())
-                             .arg(quoted(result.imported));
+                       ? QStringLiteral("1 Auftrag importiert.")
+                       : QStringLiteral("%1 Aufträge importiert.").arg(result.imported.size());
     if (!result.nameClashes.isEmpty()) {
         text += QStringLiteral(
                     "\n\nDiese Namen gab es schon; die Aufträge wurden als neue "
@@ -563,6 +570,9 @@ QString importReport(const ImportResult& result) {
                     "\n\nKennwörter werden nicht übertragen. Bitte das "
                     "Archivkennwort eintragen bei:\n") +
                 quoted(result.needPassword);
+    }
+    if (!result.imported.isEmpty()) {
+        text += QStringLiteral("\n\nImportiert:\n") + quoted(result.imported);
     }
     return text;
 }

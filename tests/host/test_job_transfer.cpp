@@ -156,9 +156,38 @@ TEST_F(JobTransferTest, ANameThatExistsIsAddedAsANewJobAndNamedInTheReport) {
                                     "'Lieferanten Autohaus Lindner'")),
               QStringLiteral("2"));
     EXPECT_EQ(importReport(r),
-              QStringLiteral("1 Auftrag importiert:\n  \"Lieferanten Autohaus Lindner\"\n\n"
+              QStringLiteral("1 Auftrag importiert.\n\n"
                              "Diese Namen gab es schon; die Aufträge wurden als neue Aufträge "
-                             "angelegt:\n  \"Lieferanten Autohaus Lindner\""));
+                             "angelegt:\n  \"Lieferanten Autohaus Lindner\"\n\n"
+                             "Importiert:\n  \"Lieferanten Autohaus Lindner\""));
+}
+
+// A report of thousands of jobs fits a message box: each list is cut after the lines asked
+// for and says how many more there are; the command line's report keeps them all.
+TEST_F(JobTransferTest, TheReportOfManyJobsShowsTheSummaryFirstAndShortensEachList) {
+    ImportResult r;
+    r.written = true;
+    for (int i = 1; i <= 7000; ++i) {
+        r.imported << QStringLiteral("Auftrag %1").arg(i);
+    }
+    r.nameClashes = r.imported.mid(0, 12);
+    r.needPassword = r.imported.mid(100, 2);
+    EXPECT_EQ(importReport(r, 3),
+              QStringLiteral("7000 Aufträge importiert.\n\n"
+                             "Diese Namen gab es schon; die Aufträge wurden als neue Aufträge "
+                             "angelegt:\n  \"Auftrag 1\"\n  \"Auftrag 2\"\n  \"Auftrag 3\"\n"
+                             "  … und 9 weitere\n\n"
+                             "Kennwörter werden nicht übertragen. Bitte das Archivkennwort "
+                             "eintragen bei:\n  \"Auftrag 101\"\n  \"Auftrag 102\"\n\n"
+                             "Importiert:\n  \"Auftrag 1\"\n  \"Auftrag 2\"\n  \"Auftrag 3\"\n"
+                             "  … und 6997 weitere"));
+    // The summary, then each list with its blank line and heading, every name listed.
+    EXPECT_EQ(importReport(r).split(QLatin1Char('\n')).size(), 1 + (2 + 12) + (2 + 2) + (2 + 7000));
+
+    ImportResult failed;
+    failed.problems = QStringList{QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c")};
+    EXPECT_EQ(importReport(failed, 2),
+              QStringLiteral("Es wurde kein Auftrag importiert:\na\nb\n  … und 1 weitere"));
 }
 
 TEST_F(JobTransferTest, TheDocumentItselfMustBeJsonOfThisFormatAndVersion) {

@@ -103,9 +103,10 @@ TEST_F(JobTransferMenuTest, ExportOfTheSelectedJobThenImportAddsItAndTheListShow
     chooseMenu(QStringLiteral("Datei"), kImport);
     ASSERT_TRUE(waitFor([&] { return boxes_->shown().size() == 3; }));
     EXPECT_EQ(boxes_->shown().at(2),
-              QStringLiteral("1 Auftrag importiert:\n  \"Lieferanten Autohaus Lindner\"\n\n"
+              QStringLiteral("1 Auftrag importiert.\n\n"
                              "Diese Namen gab es schon; die Aufträge wurden als neue Aufträge "
-                             "angelegt:\n  \"Lieferanten Autohaus Lindner\""));
+                             "angelegt:\n  \"Lieferanten Autohaus Lindner\"\n\n"
+                             "Importiert:\n  \"Lieferanten Autohaus Lindner\""));
     EXPECT_EQ(scalar(QStringLiteral("select count(*) from tAutoJobJob where Name = "
                                     "'Lieferanten Autohaus Lindner'")),
               QStringLiteral("2"));
