@@ -60,7 +60,7 @@ grep -q "^Aufträge: [1-9]" <<<"$summary" || fail "summary without the demo jobs
   fail "--export failed"
 "$root/usr/bin/autojobverw" --db "$work/other.sqlite" --import "$work/jobs.json" \
   >"$work/import.out" 2>/dev/null || fail "--import failed: $(cat "$work/import.out")"
-grep -q '^[1-9][0-9]* Aufträge importiert:' "$work/import.out" ||
+grep -q '^[1-9][0-9]* Aufträge importiert\.$' "$work/import.out" ||
   fail "unexpected import report: $(cat "$work/import.out")"
 echo '{"format": "autojobverw-auftraege", "version": 9}' >"$work/broken.json"
 if "$root/usr/bin/autojobverw" --db "$work/other.sqlite" --import "$work/broken.json" \
