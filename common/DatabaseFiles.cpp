@@ -1,12 +1,12 @@
 #include "common/DatabaseFiles.h"
 
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
 #include <QStringList>
 #include <mutex>
 
-#include <sys/stat.h>
+#include "common/ErrObject.h"
+#include "common/FileId.h"
 
 namespace DatabaseFiles {
 
@@ -34,11 +34,8 @@ QString absolute(const QString& path) {
 }
 
 bool sameFile(const QString& a, const QString& b) {
-    struct stat first {};
-    struct stat second {};
-    return ::stat(QFile::encodeName(a).constData(), &first) == 0 &&
-           ::stat(QFile::encodeName(b).constData(), &second) == 0 &&
-           first.st_dev == second.st_dev && first.st_ino == second.st_ino;
+    const std::optional<FileId> first = fileIdOf(a);
+    return first && first == fileIdOf(b);
 }
 
 }  // namespace
@@ -76,6 +73,12 @@ QString refusal(const QString& path) {
                "nicht geöffnet, damit die Datenbank keinen Schaden nimmt; bitte "
                "wählen Sie eine andere Datei.")
         .arg(QDir::toNativeSeparators(absolute(path)));
+}
+
+void refuse(const QString& path, const QString& source) {
+    if (isDatabaseFile(path)) {
+        throw RaisedError(kRefusalNumber, refusal(path), source);
+    }
 }
 
 }  // namespace DatabaseFiles

@@ -23,4 +23,7 @@ bool isDatabaseFile(const QString& path);
 QString refusal(const QString& path);
 constexpr long kRefusalNumber = 75;
 
+// Raises the refusal, under source, when path is a database file.
+void refuse(const QString& path, const QString& source = QString());
+
 }  // namespace DatabaseFiles

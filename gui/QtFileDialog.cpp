@@ -48,19 +48,19 @@ void keepListedFilesClosed(QFileDialog& dialog) {
     dialog.setIconProvider(&provider);
 }
 
-}  // namespace QtFileDialog
-
-namespace QtFileDialog {
+QString chooseFile(QFileDialog& dialog) {
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
+        return {};
+    }
+    return dialog.selectedFiles().constFirst();
+}
 
 QString chooseFileToWrite(QFileDialog& dialog) {
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setOption(QFileDialog::DontConfirmOverwrite);
     for (;;) {
-        if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
-            return {};
-        }
-        const QString file = dialog.selectedFiles().constFirst();
-        if (!QFileInfo::exists(file) || DatabaseFiles::isDatabaseFile(file)) {
+        const QString file = chooseFile(dialog);
+        if (file.isEmpty() || !QFileInfo::exists(file) || DatabaseFiles::isDatabaseFile(file)) {
             return file;
         }
         QMessageBox question(QMessageBox::Question, dialog.windowTitle(),

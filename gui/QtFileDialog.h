@@ -12,6 +12,9 @@ namespace QtFileDialog {
 
 void keepListedFilesClosed(QFileDialog& dialog);
 
+// Runs the dialog: the file or folder chosen, or an empty text when the user cancels.
+QString chooseFile(QFileDialog& dialog);
+
 // Runs a dialog that chooses a file to write: the chosen file, or an empty text when the user
 // cancels. A file that is there already is replaced only after the program's own question in
 // German; a file of the open database is handed back without that question, since the caller

@@ -65,6 +65,15 @@ QWidget* dialogParent() {
     return QApplication::activeWindow();
 }
 
+// What a file or folder dialog answers the system: the path in the platform's form, nothing
+// when the user cancelled.
+std::optional<QString> chosen(const QString& path) {
+    if (path.isEmpty()) {
+        return std::nullopt;
+    }
+    return QDir::toNativeSeparators(path);
+}
+
 }  // namespace
 
 MsgBoxLayout msgBoxLayout(long flags) {
@@ -179,10 +188,7 @@ std::optional<QString> QtUi::FileDialog(const QString& title, const QString& fil
     if (!fileName.isEmpty()) {
         dialog.selectFile(fileName);
     }
-    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
-        return std::nullopt;
-    }
-    return QDir::toNativeSeparators(dialog.selectedFiles().constFirst());
+    return chosen(QtFileDialog::chooseFile(dialog));
 }
 
 std::optional<QString> QtUi::DirDialog(const QString& title, const QString& start) {
@@ -191,10 +197,7 @@ std::optional<QString> QtUi::DirDialog(const QString& title, const QString& star
     QtFileDialog::keepListedFilesClosed(dialog);
     dialog.setFileMode(QFileDialog::Directory);
     dialog.setOption(QFileDialog::ShowDirsOnly);
-    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
-        return std::nullopt;
-    }
-    return QDir::toNativeSeparators(dialog.selectedFiles().constFirst());
+    return chosen(QtFileDialog::chooseFile(dialog));
 }
 
 void QtUi::SetMousePointer(int pointer) {

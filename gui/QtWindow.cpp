@@ -195,10 +195,7 @@ void QtWindow::shot(const QString& file) {
     if (root_->layout()) {
         root_->layout()->activate();
     }
-    if (DatabaseFiles::isDatabaseFile(file)) {
-        throw RaisedError(DatabaseFiles::kRefusalNumber, DatabaseFiles::refusal(file),
-                          QStringLiteral("gui"));
-    }
+    DatabaseFiles::refuse(file, QStringLiteral("gui"));
     QDir().mkpath(QFileInfo(file).absolutePath());
     if (!root_->grab().save(file, "PNG")) {
         throw RaisedError(

@@ -70,9 +70,7 @@ bool cAdminJob::mbBuchProt(const QString& sDatei) {
     try {
         bool bBuchungen = false;
         {
-            if (DatabaseFiles::isDatabaseFile(sDatei)) {
-                throw RaisedError(DatabaseFiles::kRefusalNumber, DatabaseFiles::refusal(sDatei));
-            }
+            DatabaseFiles::refuse(sDatei);
             QFile datei(sDatei);
             // Only a plain file: a pipe of that name would block the opening, a link to
             // itself cannot be opened at all.

@@ -74,10 +74,7 @@ QString chooseFile(QWidget* parent, const QString& name, const QString& title, b
     }
     dialog.setAcceptMode(QFileDialog::AcceptOpen);
     dialog.setFileMode(QFileDialog::ExistingFile);
-    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
-        return {};
-    }
-    return dialog.selectedFiles().constFirst();
+    return QtFileDialog::chooseFile(dialog);
 }
 
 }  // namespace

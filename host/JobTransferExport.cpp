@@ -18,6 +18,7 @@
 #include "jobs/JobTypes.h"
 #include "jobs/Zusatzinfo.h"
 #include "schedule/ScheduleStore.h"
+#include "schedule/ScheduleTime.h"
 #include "suite/Database.h"
 
 namespace JobTransfer {
@@ -49,10 +50,6 @@ QString dayOf(const QDateTime& moment) {
     return moment.date().toString(QStringLiteral("yyyy-MM-dd"));
 }
 
-int asNumber(const QVariant& hhmmss) {
-    return hhmmss.toInt();
-}
-
 QJsonArray schedulesOf(CRecordset& recordset, long jobId) {
     QJsonArray schedules;
     if (recordset.OpenQuery(ScheduleStore::jobSchedulesQuery(jobId), 2) >= 1) {
@@ -68,8 +65,8 @@ QJsonArray schedulesOf(CRecordset& recordset, long jobId) {
             s[Key::kRelativesIntervall] = static_cast<int>(o.plFrequencyRelativeIntervall);
             s[Key::kTagesEinheit] = static_cast<int>(o.plFrequencySubDay);
             s[Key::kTagesIntervall] = static_cast<int>(o.plFrequencySubDayIntervall);
-            s[Key::kStartZeit] = timeText(asNumber(o.pvActiveStartTimeOfDay));
-            s[Key::kEndZeit] = timeText(asNumber(o.pvActiveEndTimeOfDay));
+            s[Key::kStartZeit] = timeText(zeitAlsZahl(o.pvActiveStartTimeOfDay));
+            s[Key::kEndZeit] = timeText(zeitAlsZahl(o.pvActiveEndTimeOfDay));
             s[Key::kStartDatum] = dayOf(o.pdtActiveStartDate);
             s[Key::kEndDatum] = dayOf(o.pdtActiveEndDate);
             schedules.append(s);

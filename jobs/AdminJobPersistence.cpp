@@ -12,10 +12,6 @@
 
 namespace {
 
-QString jobAbfrage(long lJobId) {
-    return JobStore::rowQuery(lJobId);
-}
-
 // A date as the captions show it: day, month and year, with the time of day when there is one.
 // A date that was never set gives the empty text.
 QString datumText(const QDateTime& dtWert) {
@@ -37,7 +33,7 @@ std::uint8_t alsByte(long lWert) {
 bool cAdminJob::mAuftragLesen(JobRecord& rec) {
     ErrorExit ex(QStringLiteral("mAuftragLesen"), kKlasse);
     try {
-        const QString sSql = jobAbfrage(rec.lJobId);
+        const QString sSql = JobStore::rowQuery(rec.lJobId);
         auto oTL = neuesRecordset(ex);
         oTL->Connect();
         JobRecord neu = rec;
@@ -78,7 +74,7 @@ void cAdminJob::mAuftragSpeichern(JobRecord& rec) {
     ErrorExit ex(QStringLiteral("mAuftragSpeichern"), kKlasse);
     try {
         auto oTL = neuesRecordset(ex);
-        const QString sSql = jobAbfrage(rec.lJobId);
+        const QString sSql = JobStore::rowQuery(rec.lJobId);
         oTL->Connect();
         QString sNeuerName;
         const bool bNeu = oTL->OpenQuery(sSql, 2) < 1;
@@ -110,7 +106,7 @@ void cAdminJob::mAuftragSpeichern(JobRecord& rec) {
 QString cAdminJob::msGetJobName(long lJobId) {
     ErrorExit ex(QStringLiteral("msGetJobName"), kKlasse);
     try {
-        const QString sSql = jobAbfrage(lJobId);
+        const QString sSql = JobStore::rowQuery(lJobId);
         auto oTL = neuesRecordset(ex);
         oTL->Connect();
         QString sName;

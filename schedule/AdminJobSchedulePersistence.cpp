@@ -10,20 +10,13 @@
 #include "schedule/ScheduleStore.h"
 #include "schedule/ScheduleTime.h"
 
-namespace {
-
-QString abfrage(const QString& sSchluessel, long lId) {
-    return ScheduleStore::rowsQuery(sSchluessel, lId);
-}
-
-}  // namespace
-
 bool cAdminJob::mZeitplanSpeichern(long& lZeitplanId, long& lJobId, cSchedule& oSchedule) {
     ErrorExit ex(QStringLiteral("mZeitplanSpeichern"), kKlasse);
     try {
         auto oTL = neuesRecordset(ex);
         oTL->Connect();
-        const QString sSql = abfrage(QStringLiteral("idAutoJobSchedule"), lZeitplanId);
+        const QString sSql =
+            ScheduleStore::rowsQuery(QStringLiteral("idAutoJobSchedule"), lZeitplanId);
         if (oTL->OpenQuery(sSql, 2) < 1) {
             oTL->AddNew();
         }
@@ -45,7 +38,7 @@ void cAdminJob::mZeitplanEinfuegen(long lJobIdNeu) {
         if (mlJobIdKopiert == 0) {
             return;
         }
-        const QString sSql = abfrage(QStringLiteral("idAutoJob"), mlJobIdKopiert);
+        const QString sSql = ScheduleStore::rowsQuery(QStringLiteral("idAutoJob"), mlJobIdKopiert);
         auto oTL = neuesRecordset(ex);
         oTL->Connect();
         const long lAnzahl = oTL->OpenQuery(sSql, 2);
@@ -76,7 +69,8 @@ void cAdminJob::mZeitplanLoeschen() {
         if (mlMsgBox(QStringLiteral("Zeitplan löschen?"), MsgStyle::YesNo) != MsgAnswer::Yes) {
             return;
         }
-        const QString sSql = abfrage(QStringLiteral("idAutoJobSchedule"), mlZeitplanId);
+        const QString sSql =
+            ScheduleStore::rowsQuery(QStringLiteral("idAutoJobSchedule"), mlZeitplanId);
         auto oTL = neuesRecordset(ex);
         oTL->Connect();
         if (oTL->OpenQuery(sSql, 2) >= 1) {

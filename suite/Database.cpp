@@ -13,8 +13,6 @@
 #include <QSqlQuery>
 #include <atomic>
 
-#include <sys/stat.h>
-
 #include "common/DatabaseFiles.h"
 #include "suite/DatabaseRecordset.h"
 #include "suite/PostgresBackend.h"
@@ -81,7 +79,7 @@ Database::~Database() {
         connectionOf(connectionName_).close();
         QSqlDatabase::removeDatabase(connectionName_);
     }
-    if (inode_ != 0) {
+    if (fileId_) {
         DatabaseFiles::closed(path_);
     }
 }
@@ -117,10 +115,10 @@ void Database::openSqlite(int busyTimeoutMs) {
         throw SqlErrors::fromDriver(db.lastError(), path_);
     }
     setUpSqlite();
-    struct stat info {};
-    if (!path_.isEmpty() && path_ != u":memory:" && ::stat(QFile::encodeName(path_), &info) == 0) {
-        device_ = info.st_dev;
-        inode_ = info.st_ino;
+    if (path_ != u":memory:") {
+        fileId_ = fileIdOf(path_);
+    }
+    if (fileId_) {
         DatabaseFiles::opened(path_);
     }
 }
@@ -195,13 +193,13 @@ void Database::runScript(const QString& script) {
     backend_->runScript(connectionOf(connectionName_), script);
 }
 
+void Database::checkUsable() {
+    checkStillThere();
+    checkLocksHeld();
+}
+
 void Database::checkStillThere() const {
-    if (inode_ == 0) {
-        return;
-    }
-    struct stat info {};
-    if (::stat(QFile::encodeName(path_), &info) != 0 || info.st_dev != device_ ||
-        info.st_ino != inode_) {
+    if (fileId_ && fileIdOf(path_) != fileId_) {
         throw SqlErrors::raised(
             ErrNumber::Database,
             QStringLiteral("Die Datenbank %1 ist nicht mehr vorhanden: sie wurde gelöscht oder "

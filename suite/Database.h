@@ -4,6 +4,7 @@
 #include <memory>
 
 #include "common/Clock.h"
+#include "common/FileId.h"
 #include "common/Services.h"
 
 class SqlBackend;
@@ -50,6 +51,11 @@ class Database : public std::enable_shared_from_this<Database> {
 
     Services::Factory<CRecordset> recordsetFactory();
 
+    // Asked before a record set connects and before each statement; throws when the
+    // connection must not be used as it is.
+    void checkUsable();
+
+  private:
     // Throws when the file the database was opened from has since been deleted or moved:
     // the connection would go on writing into a file nobody reads again.
     void checkStillThere() const;
@@ -59,7 +65,6 @@ class Database : public std::enable_shared_from_this<Database> {
     // nothing is written into files another program may already have deleted.
     void checkLocksHeld();
 
-  private:
     Database(QString path, QString connectionName, std::shared_ptr<IClock> clock);
     void openSqlite(int busyTimeoutMs);
     void setUpSqlite();
@@ -71,7 +76,6 @@ class Database : public std::enable_shared_from_this<Database> {
     bool onServer_ = false;
     // SQLite in WAL mode, whose locks checkLocksHeld() watches.
     bool walMode_ = false;
-    // Device and inode of the opened file; both 0 for a database without a file.
-    quint64 device_ = 0;
-    quint64 inode_ = 0;
+    // The opened file; none for a database without a file.
+    std::optional<FileId> fileId_;
 };

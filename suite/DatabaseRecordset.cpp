@@ -54,9 +54,7 @@ QString DatabaseRecordset::translated(const QString& sql) const {
 
 void DatabaseRecordset::Connect() {
     connection();
-    const std::shared_ptr<Database> db = database_.lock();
-    db->checkStillThere();
-    db->checkLocksHeld();
+    database_.lock()->checkUsable();
 }
 
 void DatabaseRecordset::Disconnect() {}
@@ -300,9 +298,7 @@ bool DatabaseRecordset::Move(long direction) {
 long DatabaseRecordset::Execute(const QString& sql) {
     const QString statement = translated(sql);
     const QSqlDatabase db = connection();
-    const std::shared_ptr<Database> database = database_.lock();
-    database->checkStillThere();
-    database->checkLocksHeld();
+    database_.lock()->checkUsable();
     const QSqlQuery query = runSql(backend(), db, statement, {}, sql);
     const QString keyword = SqlDialect::leadingKeyword(statement);
     if (keyword == u"insert" || keyword == u"update" || keyword == u"delete" ||

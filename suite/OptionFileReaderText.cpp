@@ -27,10 +27,7 @@ QList<OptionFileEntry> TextOptionFileReader::Entries(const QString& optionFile) 
         throw RaisedError(kDateiNichtGefunden,
                           QStringLiteral("Datei nicht gefunden: ") + optionFile, kQuelle);
     }
-    if (DatabaseFiles::isDatabaseFile(optionFile)) {
-        throw RaisedError(DatabaseFiles::kRefusalNumber, DatabaseFiles::refusal(optionFile),
-                          kQuelle);
-    }
+    DatabaseFiles::refuse(optionFile, kQuelle);
     const qint64 groesse = QFileInfo(optionFile).size();
     if (groesse > kHoechstGroesse) {
         throw RaisedError(kZuGross,

@@ -1,27 +1,16 @@
 #include "suite/SqliteFileLocks.h"
 
 #include <QByteArrayList>
-#include <QFile>
 
 #include <cstdio>
 #include <optional>
 
-#include <sys/stat.h>
 #include <sys/sysmacros.h>
 #include <unistd.h>
 
 namespace SqliteFileLocks {
 
 namespace {
-
-std::optional<FileId> idOf(const QString& path) {
-    struct stat info {};
-    if (::stat(QFile::encodeName(path).constData(), &info) != 0) {
-        return std::nullopt;
-    }
-    return FileId{static_cast<unsigned long long>(info.st_dev),
-                  static_cast<unsigned long long>(info.st_ino)};
-}
 
 // /proc/locks reports a size of 0: read it to its end in pieces.
 std::optional<QByteArray> readProcLocks() {
@@ -51,7 +40,7 @@ bool holds(const QByteArray& procLocks, long long pid, FileId file) {
     const QByteArray owner = QByteArray::number(pid);
     for (const QByteArray& line : procLocks.split('\n')) {
         const QByteArrayList fields = line.simplified().split(' ');
-        if (fields.size() < 6 || fields[1] == "->" || fields[1] != "POSIX") {
+        if (fields.size() < 6 || fields[1] != "POSIX") {
             continue;
         }
         if (fields[4] == owner && fields[5] == where) {
@@ -62,8 +51,8 @@ bool holds(const QByteArray& procLocks, long long pid, FileId file) {
 }
 
 State ofThisProcess(const QString& databasePath) {
-    const auto database = idOf(databasePath);
-    const auto shm = idOf(databasePath + QStringLiteral("-shm"));
+    const auto database = fileIdOf(databasePath);
+    const auto shm = fileIdOf(databasePath + QStringLiteral("-shm"));
     if (!database || !shm) {
         return State::Lost;  // the files went away beneath the connection
     }

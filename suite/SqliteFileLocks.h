@@ -2,6 +2,8 @@
 
 #include <QString>
 
+#include "common/FileId.h"
+
 // SQLite in WAL mode holds, for as long as a connection is open, a read lock on the database
 // file and one on its -shm. These are POSIX advisory locks: they belong to the process, and
 // closing any descriptor of those files, opened by anything in the process, drops them all.
@@ -19,12 +21,7 @@ enum class State {
 // The locks of this process on databasePath and databasePath + "-shm".
 State ofThisProcess(const QString& databasePath);
 
-// The same from a text in the form of /proc/locks, for the process pid; the files by device
-// and inode, as stat gives them.
-struct FileId {
-    unsigned long long device = 0;
-    unsigned long long inode = 0;
-};
+// The same from a text in the form of /proc/locks, for the process pid and one file.
 bool holds(const QByteArray& procLocks, long long pid, FileId file);
 
 }  // namespace SqliteFileLocks
