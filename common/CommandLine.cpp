@@ -16,10 +16,14 @@ constexpr int kEinzug = 2;
 // line of their own.
 constexpr int kNamenBreiteMax = 36;
 
+QString optionName(const QString& sName) {
+    return (sName.size() == 1 ? QStringLiteral("-") : QStringLiteral("--")) + sName;
+}
+
 QString namen(const QCommandLineOption& option) {
     QStringList teile;
     for (const QString& name : option.names()) {
-        teile << (name.size() == 1 ? QStringLiteral("-") : QStringLiteral("--")) + name;
+        teile << optionName(name);
     }
     QString s = teile.join(QStringLiteral(", "));
     if (!option.valueName().isEmpty()) {
@@ -43,10 +47,6 @@ QStringList umbrechen(const QString& sText, int iBreite) {
         zeilen << zeile;
     }
     return zeilen;
-}
-
-QString optionName(const QString& sName) {
-    return (sName.size() == 1 ? QStringLiteral("-") : QStringLiteral("--")) + sName;
 }
 
 }  // namespace
