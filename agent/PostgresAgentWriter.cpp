@@ -50,17 +50,26 @@ void PostgresAgentWriter::begin() {
     runs_.clear();
     logs_.clear();
     execute(QStringLiteral("BEGIN"), QStringLiteral("BEGIN"));
+    // Nothing of the transaction is repeated on a connection opened anew after a loss.
+    backend_.transactionBegun();
 }
 
 void PostgresAgentWriter::commit() {
-    flush(runs_);
-    flush(logs_);
-    execute(QStringLiteral("COMMIT"), QStringLiteral("COMMIT"));
+    try {
+        flush(runs_);
+        flush(logs_);
+        execute(QStringLiteral("COMMIT"), QStringLiteral("COMMIT"));
+    } catch (...) {
+        backend_.transactionEnded();
+        throw;
+    }
+    backend_.transactionEnded();
 }
 
 void PostgresAgentWriter::rollback() noexcept {
     runs_.clear();
     logs_.clear();
+    backend_.transactionEnded();
     QSqlQuery(db_).exec(QStringLiteral("ROLLBACK"));
 }
 

@@ -11,6 +11,7 @@
 
 #include "app/ClassTrace.h"
 #include "app/GuardedCallback.h"
+#include "app/RowConflict.h"
 #include "app/cSchedule.h"
 #include "app/cVerlaufFilter.h"
 #include "common/Host.h"
@@ -88,6 +89,13 @@ class cAdminJob {
 
     long mlMsgBox(const QString& sText, long lFlags, const QString& sTitel = {},
                   const QString& sHelpDatei = {}, long lKontext = 0);
+    // Before a save: what the user decides for the row the record set was opened on, when
+    // it is no longer at the version lGelesen the window read (app/AdminJobRowConflict.cpp).
+    // sWas is "Der Auftrag" or "Der Zeitplan"; the stored row names its last writer in
+    // sMitarbeiterFeld.
+    RowConflict::Entscheidung mZeilenstandFragen(CRecordset& oTL, bool bGefunden, long lGelesen,
+                                                 const QString& sWas, const QString& sGelesenerName,
+                                                 const QString& sMitarbeiterFeld);
     QString msMitarbeiterName(long& lMitId);
     void mRaiseFortschritt(const QString& sHinweis, const QString& sEndeHinweis);
     // The list's browser; raises "object required" when there is none.
@@ -165,11 +173,15 @@ class cAdminJob {
     // Reads the job rec.lJobId into rec; false, with the defaults of a new job, when there is
     // no such row.
     bool mAuftragLesen(JobRecord& rec);
-    // Inserts the job when rec.lJobId has no row, else updates it; gives back the id and the
-    // two captions.
-    void mAuftragSpeichern(JobRecord& rec);
+    // Inserts the job when rec.lJobId has no row, else updates it; gives back the id, the
+    // two captions and the row's new version. A row read at rec.lZeilenversion that changed
+    // or went meanwhile is written only after the user's yes.
+    RowConflict::Speicherung mAuftragSpeichern(JobRecord& rec);
     QString msGetJobName(long lJobId);
-    // Stamps the job mlJobId as changed now by the current user.
+    // Whether the job has its row; true when that cannot be read (reported).
+    bool mbAuftragVorhanden(long lJobId);
+    // Stamps the job mlJobId as changed now by the current user, unless another workstation
+    // wrote it since the properties window read it.
     void mUpdateLetztAenderung();
     QString msGetLetzteAenderungText(const QDateTime& dtDatum, long lMitId);
     // Copies the schedules of the copied job to the job lJobIdNeu.
@@ -265,6 +277,10 @@ class cAdminJob {
 
     long mlJobId = 0;
     QString msJobName;
+    // The versions of the rows the properties window and the schedule dialog read.
+    long mlAuftragZeilenversion = RowConflict::kNichtGelesen;
+    long mlZeitplanZeilenversion = RowConflict::kNichtGelesen;
+    QString msZeitplanGelesen;
     long mlZeitplanId = 0;
     bool mbInitEigenschaften = false;
     long mlJobIdListe = 0;
@@ -294,8 +310,11 @@ class cAdminJob {
     void mInitCBODaten(std::uint8_t bytDatenArt);
     void mInitCBO_MandKanz(std::uint8_t bytKey);
     void mEigenschaftenGeaendert();
-    // False when the job could not be written; the window then keeps what the user typed.
+    // False when the job could not be written; the window then keeps what the user typed,
+    // or shows the stored job when the user chose to drop the input.
     bool mEigenschaftenSpeichern(bool bUebernehmen);
+    // Fills the properties window from the table again, the input dropped.
+    void mEigenschaftenNeuLesen();
     // The schedule of the current row of the schedule grid, when a schedule row is current.
     void mZeitplanDerZeileBearbeiten();
 
@@ -373,8 +392,11 @@ class cAdminJob {
 
     // Writes the schedule to the row lZeitplanId of the job lJobId; an id without a row (0,
     // -1) adds a new row.
-    // False when the row could not be written (the failure is reported).
-    bool mZeitplanSpeichern(long& lZeitplanId, long& lJobId, cSchedule& oSchedule);
+    // Not written when the row could not be written (the failure is reported), or when the
+    // row read at lGelesen changed or went meanwhile and the user did not say yes.
+    RowConflict::Speicherung mZeitplanSpeichern(long& lZeitplanId, long& lJobId,
+                                                cSchedule& oSchedule,
+                                                long lGelesen = RowConflict::kNichtGelesen);
     // Asks, then deletes the schedule mlZeitplanId.
     void mZeitplanLoeschen();
     void moGridZeitplan_KeyDown(int iKeyCode);

@@ -372,7 +372,8 @@ CREATE TABLE tAutoJobJob (
     FremdFormat         smallint DEFAULT 0,
     FremdDateifilter    varchar(100),
     FremdMapping        varchar(255),
-    LetzteAenderung     timestamp(0) without time zone
+    LetzteAenderung     timestamp(0) without time zone,
+    Zeilenversion       integer NOT NULL DEFAULT 0
 );
 CREATE INDEX ixAutoJobJob_Mandant ON tAutoJobJob (Ps_Id_Mandant);
 
@@ -432,11 +433,30 @@ CREATE TABLE tAutoJobSchedule (
     ActiveStartDate             timestamp(0) without time zone,
     ActiveEndDate               timestamp(0) without time zone,
     LetzteAenderung             timestamp(0) without time zone,
-    Ps_Id                       integer DEFAULT 0
+    Ps_Id                       integer DEFAULT 0,
+    Zeilenversion               integer NOT NULL DEFAULT 0
 );
 -- Schedules are listed, started and copied by job; the name stays out of the
 -- index, as in the SQLite database.
 CREATE INDEX ixAutoJobSchedule_Job ON tAutoJobSchedule (idAutoJob);
+
+-- Zeilenversion counts the writes of a job or schedule, whoever makes them: a window that
+-- read version n saves only while the row still has n. A writer that sets the column itself
+-- is left alone.
+CREATE FUNCTION zeilenversion_weiterzaehlen() RETURNS trigger
+    LANGUAGE plpgsql
+AS $$
+BEGIN
+    IF NEW.Zeilenversion = OLD.Zeilenversion THEN
+        NEW.Zeilenversion := OLD.Zeilenversion + 1;
+    END IF;
+    RETURN NEW;
+END;
+$$;
+CREATE TRIGGER trAutoJobJob_Zeilenversion BEFORE UPDATE ON tAutoJobJob
+    FOR EACH ROW EXECUTE FUNCTION zeilenversion_weiterzaehlen();
+CREATE TRIGGER trAutoJobSchedule_Zeilenversion BEFORE UPDATE ON tAutoJobSchedule
+    FOR EACH ROW EXECUTE FUNCTION zeilenversion_weiterzaehlen();
 
 ------------------------------------------------------------------------------
 -- Run history (written by the agent service)

@@ -98,9 +98,19 @@ CREATE TABLE tAutoJobJob (
     FremdFormat         BIT DEFAULT 0,
     FremdDateifilter    VARCHAR(100),
     FremdMapping        VARCHAR(255),
-    LetzteAenderung     DATETIME
+    LetzteAenderung     DATETIME,
+    Zeilenversion       INTEGER NOT NULL DEFAULT 0
 );
 CREATE INDEX ixAutoJobJob_Mandant ON tAutoJobJob (Ps_Id_Mandant);
+-- Zeilenversion counts the writes of a row, whoever makes them: a window that read version n
+-- saves only while the row still has n (two saves may fall into one second of
+-- LetzteAenderung). A writer that sets the column itself is left alone.
+CREATE TRIGGER trAutoJobJob_Zeilenversion AFTER UPDATE ON tAutoJobJob
+FOR EACH ROW WHEN NEW.Zeilenversion = OLD.Zeilenversion
+BEGIN
+    UPDATE tAutoJobJob SET Zeilenversion = OLD.Zeilenversion + 1
+    WHERE idAutoJob = NEW.idAutoJob;
+END;
 
 ------------------------------------------------------------------------------
 -- Schedules
@@ -145,13 +155,20 @@ CREATE TABLE tAutoJobSchedule (
     ActiveStartDate             DATETIME,
     ActiveEndDate               DATETIME,
     LetzteAenderung             DATETIME,
-    Ps_Id                       INTEGER DEFAULT 0
+    Ps_Id                       INTEGER DEFAULT 0,
+    Zeilenversion               INTEGER NOT NULL DEFAULT 0
 );
 -- Schedules are listed, started and copied by job. The name stays out of the
 -- index: the program compares it as the server does, other SQLite clients
 -- (the agent, the sqlite3 shell) with their own NOCASE, and an index on it
 -- would be sorted by whichever wrote it.
 CREATE INDEX ixAutoJobSchedule_Job ON tAutoJobSchedule (idAutoJob);
+CREATE TRIGGER trAutoJobSchedule_Zeilenversion AFTER UPDATE ON tAutoJobSchedule
+FOR EACH ROW WHEN NEW.Zeilenversion = OLD.Zeilenversion
+BEGIN
+    UPDATE tAutoJobSchedule SET Zeilenversion = OLD.Zeilenversion + 1
+    WHERE idAutoJobSchedule = NEW.idAutoJobSchedule;
+END;
 
 ------------------------------------------------------------------------------
 -- Run history (written by the agent service)

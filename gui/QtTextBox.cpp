@@ -1,6 +1,10 @@
 #include "gui/QtTextBox.h"
 
 #include <QFontMetrics>
+#include <QSignalBlocker>
+#include <algorithm>
+
+#include "common/ColumnLimits.h"
 
 namespace {
 
@@ -68,6 +72,16 @@ void QtTextBox::refresh() {
 
 void QtTextBox::userEdited(const QString& text) {
     QString value = text;
+    const int limit = decl().maxLength;
+    if (line_ && limit > 0 && ColumnLimits::characters(value) > limit) {
+        // The box stops taking characters at its limit, counted as the database counts them
+        // (QLineEdit's own limit counts a character beyond the 16-bit range twice).
+        value = ColumnLimits::leftCharacters(value, limit);
+        const int cursor = std::min(line_->cursorPosition(), static_cast<int>(value.size()));
+        const QSignalBlocker block(line_);
+        line_->setText(value);
+        line_->setCursorPosition(cursor);
+    }
     if (lines_) {
         value = typing_ && withLf(*typing_) == text ? *typing_ : withCrLf(text);
     }

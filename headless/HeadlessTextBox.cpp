@@ -1,5 +1,7 @@
 #include "headless/HeadlessTextBox.h"
 
+#include "common/ColumnLimits.h"
+
 HeadlessTextBox::HeadlessTextBox(const ControlDecl& decl, HeadlessWindow& window)
     : HeadlessControl(decl, window), caption_(decl.caption) {}
 
@@ -29,5 +31,7 @@ void HeadlessTextBox::userType(const QString& text) {
     if (!raise(EventType::KeyDown)) {
         return;
     }
-    setText(text);
+    // The box takes no more characters than its limit, as the database counts them.
+    const int limit = decl().maxLength;
+    setText(limit > 0 ? ColumnLimits::leftCharacters(text, limit) : text);
 }

@@ -14,6 +14,7 @@
 #include <optional>
 
 #include "app/cSchedule.h"
+#include "common/ColumnLimits.h"
 #include "host/JobTransferFields.h"
 #include "host/JobTransferSql.h"
 #include "jobs/ClientKinds.h"
@@ -28,7 +29,6 @@ namespace JobTransfer {
 
 namespace {
 
-constexpr int kNameLength = 100;
 const QString kNoEnd = QStringLiteral("9999-12-31");
 
 struct PlannedJob {
@@ -61,7 +61,7 @@ class Reader {
         }
         const QString value = v.toString();
         // Characters as the server counts them: a character beyond the 16-bit range is one.
-        if (maxLength >= 0 && value.toUcs4().size() > maxLength) {
+        if (maxLength >= 0 && ColumnLimits::characters(value) > maxLength) {
             problem(QStringLiteral("\"%1\" ist länger als %2 Zeichen.").arg(key).arg(maxLength));
             return std::nullopt;
         }
@@ -217,7 +217,7 @@ std::optional<cSchedule> readSchedule(QStringList& problems, const QString& jobW
         return std::nullopt;
     }
     const int before = r.problemCount();
-    const auto sName = r.text(Key::kName, true, kNameLength);
+    const auto sName = r.text(Key::kName, true, ColumnLimits::kZeitplanName);
     if (sName && sName->trimmed().isEmpty()) {
         r.problem(QStringLiteral("\"name\" darf nicht leer sein."));
     }
@@ -315,7 +315,7 @@ std::optional<PlannedJob> readJob(QStringList& problems, const Lookups& lookups,
         return std::nullopt;
     }
     const int before = r.problemCount();
-    const auto sName = r.text(Key::kName, true, kNameLength);
+    const auto sName = r.text(Key::kName, true, ColumnLimits::kAuftragName);
     if (sName && sName->trimmed().isEmpty()) {
         r.problem(QStringLiteral("\"name\" darf nicht leer sein."));
     }
@@ -327,9 +327,9 @@ std::optional<PlannedJob> readJob(QStringList& problems, const Lookups& lookups,
     const auto aktiviert = r.flag(Key::kAktiviert);
     const auto einzelLog = r.flag(Key::kEinzelLog);
     const auto fremdFormat = r.flag(Key::kFremdFormat);
-    const auto filter = r.text(Key::kFremdDateifilter, false, 100);
-    const auto mapping = r.text(Key::kFremdMapping, false, 255);
-    const auto verzeichnis3 = r.text(Key::kVerzeichnis3, false, 255);
+    const auto filter = r.text(Key::kFremdDateifilter, false, ColumnLimits::kFremdDateifilter);
+    const auto mapping = r.text(Key::kFremdMapping, false, ColumnLimits::kFremdMapping);
+    const auto verzeichnis3 = r.text(Key::kVerzeichnis3, false, ColumnLimits::kErrorMTA);
 
     const auto mandKanz =
         r.inRange(Key::kMandKanz, MandKanz::Mandant, MandKanz::AlleMandantenKanzleien);
@@ -364,7 +364,7 @@ std::optional<PlannedJob> readJob(QStringList& problems, const Lookups& lookups,
         r.forbidden(Key::kVerzeichnis1, QStringLiteral("die Auftragsart hat eine Archivanmeldung"));
         r.forbidden(Key::kVerzeichnis2, QStringLiteral("Kennwörter werden nicht übertragen"));
     } else {
-        verzeichnis1 = r.text(Key::kVerzeichnis1, false, 255);
+        verzeichnis1 = r.text(Key::kVerzeichnis1, false, ColumnLimits::kMTAPath);
         verzeichnis2 = r.text(Key::kVerzeichnis2, false);
     }
     qlonglong staffId = 0;
@@ -498,20 +498,8 @@ ImportResult importJobs(Database& database, const QByteArray& document, long sta
         if (!result.problems.isEmpty()) {
             return result;
         }
-        if (!db.transaction()) {
-            raiseError(db.lastError().text());
-        }
-        try {
-            write(*database.recordsetFactory()(), jobs, staffId, database.clock().now());
-        } catch (const RaisedError&) {
-            db.rollback();
-            throw;
-        }
-        if (!db.commit()) {
-            const QString text = db.lastError().text();
-            db.rollback();
-            raiseError(text);
-        }
+        database.inTransaction(
+            [&] { write(*database.recordsetFactory()(), jobs, staffId, database.clock().now()); });
         QSet<QString> named;  // a name twice in the document clashes as one already stored
         for (const PlannedJob& job : jobs) {
             const QString& name = job.record.sName;

@@ -41,6 +41,7 @@ void cAdminJob::mShowJobEigenschaften() {
         rec.lJobId = mlJobId;
         rec.lMandant = mlMandantId;
         mAuftragLesen(rec);
+        mlAuftragZeilenversion = rec.lZeilenversion;
         mlMandantId = rec.lMandant;
         const long lDatenArt = rec.bytDatenArt;
 
@@ -236,6 +237,19 @@ void cAdminJob::mEigenschaftenGeaendert() {
     }
 }
 
+void cAdminJob::mEigenschaftenNeuLesen() {
+    ErrorExit ex(QStringLiteral("mEigenschaftenNeuLesen"), kKlasse);
+    try {
+        // Without input to keep, the window is filled as on opening, without the question.
+        required(mofrmEigenschaften)
+            .cmdCommandButton(frmEigenschaften::Cmd::Uebernehmen)
+            .setEnabled(false);
+        mShowFRMPakete(mlJobId, msGetJobName(mlJobId));
+    } catch (...) {
+        ex.fail();
+    }
+}
+
 bool cAdminJob::mEigenschaftenSpeichern(bool bUebernehmen) {
     ErrorExit ex(QStringLiteral("mEigenschaftenSpeichern"), kKlasse);
     try {
@@ -292,15 +306,26 @@ bool cAdminJob::mEigenschaftenSpeichern(bool bUebernehmen) {
         }
         rec.lMandant = form.ctlMandant().Id();
 
-        mAuftragSpeichern(rec);
-        // The caption of the last change comes back only from a complete write. After a
-        // failure (reported once, e.g. the database locked by another writer) the window is
-        // not filled again from the table, so that the input stays and "Übernehmen" stays
-        // enabled for the next try.
-        if (rec.sLetzteAenderung.isEmpty()) {
+        rec.lZeilenversion = mlAuftragZeilenversion;
+        // After a failure (reported once, e.g. the database locked by another writer) or the
+        // user's cancel the window is not filled again from the table, so that the input
+        // stays and "Übernehmen" stays enabled for the next try.
+        const RowConflict::Speicherung ergebnis = mAuftragSpeichern(rec);
+        if (ergebnis == RowConflict::Speicherung::Verworfen) {
+            mEigenschaftenNeuLesen();
             return false;
         }
+        if (ergebnis != RowConflict::Speicherung::Gespeichert) {
+            return false;
+        }
+        const bool bNeuAngelegt = rec.lJobId != mlJobId;
         mlJobId = rec.lJobId;
+        mlAuftragZeilenversion = rec.lZeilenversion;
+        if (bNeuAngelegt && moGridZeitplan) {
+            // A job made anew after another workstation deleted it has no schedules yet.
+            mInitGridZeitplan();
+            mFuelleGridZeitplan();
+        }
         form.lblLetzteAenderung().setCaption(rec.sLetzteAenderung);
         form.lblLabel(frmEigenschaften::Lbl::ErstelltDatum).setCaption(rec.sErstellt);
         msJobName = rec.sName;

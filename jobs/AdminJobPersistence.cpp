@@ -40,6 +40,7 @@ bool cAdminJob::mAuftragLesen(JobRecord& rec) {
         const bool bGefunden = oTL->OpenQuery(sSql, 2) >= 1;
         if (bGefunden) {
             JobStore::readColumns(*oTL, neu);
+            neu.lZeilenversion = RowConflict::version(*oTL);
             const QDateTime dtGeaendert = oTL->ReadDate(QStringLiteral("LetzteAenderung"));
             const long lMitId = oTL->ReadLong(QStringLiteral("Ps_Id_Mitarbeiter"));
             neu.sLetzteAenderung = msGetLetzteAenderungText(dtGeaendert, lMitId);
@@ -56,6 +57,7 @@ bool cAdminJob::mAuftragLesen(JobRecord& rec) {
             neu.bytDatenArt = DatenArt::Kunden;
             neu.sLetzteAenderung = QStringLiteral("Letzte Änderung: Keine Angaben");
             neu.lMandant = 0;
+            neu.lZeilenversion = RowConflict::kNichtGelesen;
         }
         oTL->Close();
         oTL->Disconnect();
@@ -70,14 +72,28 @@ bool cAdminJob::mAuftragLesen(JobRecord& rec) {
     return false;
 }
 
-void cAdminJob::mAuftragSpeichern(JobRecord& rec) {
+RowConflict::Speicherung cAdminJob::mAuftragSpeichern(JobRecord& rec) {
+    using RowConflict::Entscheidung;
+    using RowConflict::Speicherung;
     ErrorExit ex(QStringLiteral("mAuftragSpeichern"), kKlasse);
     try {
         auto oTL = neuesRecordset(ex);
         const QString sSql = JobStore::rowQuery(rec.lJobId);
         oTL->Connect();
         QString sNeuerName;
-        const bool bNeu = oTL->OpenQuery(sSql, 2) < 1;
+        const bool bGefunden = oTL->OpenQuery(sSql, 2) >= 1;
+        // The record set's write holds on to the version it read here, so that nothing
+        // written between this question and the write is undone.
+        const Entscheidung entscheidung =
+            mZeilenstandFragen(*oTL, bGefunden, rec.lZeilenversion, QStringLiteral("Der Auftrag"),
+                               msJobName, QStringLiteral("Ps_Id_Mitarbeiter"));
+        if (entscheidung == Entscheidung::Abbrechen) {
+            return Speicherung::NichtGespeichert;
+        }
+        if (entscheidung == Entscheidung::Verwerfen) {
+            return Speicherung::Verworfen;
+        }
+        const bool bNeu = entscheidung == Entscheidung::NeuAnlegen;
         if (bNeu) {
             oTL->AddNew();
             sNeuerName = rec.sName;
@@ -89,18 +105,37 @@ void cAdminJob::mAuftragSpeichern(JobRecord& rec) {
         const QString sErstellt = datumText(oTL->ReadDate(QStringLiteral("Erstellt")));
         oTL->Update(CRecordset::UpdateWrite, true);
         const long lJobId = oTL->ReadLong(QStringLiteral("idAutoJob"));
+        const long lVersion = RowConflict::version(*oTL);
         oTL->Close();
         oTL->Disconnect();
         oTL.reset();
         rec.lJobId = lJobId;
+        rec.lZeilenversion = lVersion;
         rec.sLetzteAenderung = sLetzteAenderung;
         rec.sErstellt = sErstellt;
         if (bNeu) {
             msJobName = sNeuerName;
         }
+        return Speicherung::Gespeichert;
     } catch (...) {
         ex.fail();
     }
+    return RowConflict::Speicherung::NichtGespeichert;
+}
+
+bool cAdminJob::mbAuftragVorhanden(long lJobId) {
+    ErrorExit ex(QStringLiteral("mbAuftragVorhanden"), kKlasse);
+    try {
+        auto oTL = neuesRecordset(ex);
+        oTL->Connect();
+        const bool bVorhanden = oTL->OpenQuery(JobStore::rowQuery(lJobId), 0) >= 1;
+        oTL->Close();
+        oTL->Disconnect();
+        return bVorhanden;
+    } catch (...) {
+        ex.fail();
+    }
+    return true;  // reported once; the write that follows tells for itself
 }
 
 QString cAdminJob::msGetJobName(long lJobId) {
@@ -130,9 +165,14 @@ void cAdminJob::mUpdateLetztAenderung() {
     ErrorExit ex(QStringLiteral("mUpdateLetztAenderung"), kKlasse);
     try {
         auto oTL = neuesRecordset(ex);
-        const QString sSql = JobStore::touchStatement(mlJobId, required(moProperties).plMitId);
+        const QString sSql = JobStore::touchStatement(mlJobId, required(moProperties).plMitId,
+                                                      mlAuftragZeilenversion);
         oTL->Connect();
-        oTL->Execute(sSql);
+        // The window's own stamp does not count against its next save; a job another
+        // workstation wrote meanwhile keeps that stamp, and the next save asks.
+        if (oTL->Execute(sSql) == 1 && mlAuftragZeilenversion != RowConflict::kNichtGelesen) {
+            ++mlAuftragZeilenversion;
+        }
         // Disconnect comes before Close here, unlike everywhere else.
         oTL->Disconnect();
         oTL->Close();
@@ -165,6 +205,7 @@ void cAdminJob::mAuftragEinfuegen() {
             return;
         }
         rec.lJobId = -1;
+        rec.lZeilenversion = RowConflict::kNichtGelesen;
         mAuftragSpeichern(rec);
         if (rec.lJobId <= 0) {
             return;  // the save has reported its failure

@@ -25,6 +25,7 @@ struct JobRecord {
     bool bFremdFormat = false;
     QString sFremdDateifilter;
     QString sFremdMapping;
+    long lZeilenversion = -1;  // Zeilenversion of the row as read or written; -1 for none
 };
 
 // Whether a job type keeps an archive login (staff id and password) in its directory columns.

@@ -50,11 +50,15 @@ QString deleteStatement(const QString& sBedingung) {
     return QStringLiteral("delete from tAutoJobJob where idAutoJob") + sBedingung;
 }
 
-QString touchStatement(long lJobId, long lMitarbeiter) {
-    return QStringLiteral(
-               "update tAutoJobJob set LetzteAenderung = getdate(), Ps_Id_Mitarbeiter=") +
-           QString::number(lMitarbeiter) + QStringLiteral(" where idAutoJob like '") +
-           QString::number(lJobId) + QStringLiteral("'");
+QString touchStatement(long lJobId, long lMitarbeiter, long lZeilenversion) {
+    QString sSql =
+        QStringLiteral("update tAutoJobJob set LetzteAenderung = getdate(), Ps_Id_Mitarbeiter=") +
+        QString::number(lMitarbeiter) + QStringLiteral(" where idAutoJob like '") +
+        QString::number(lJobId) + QStringLiteral("'");
+    if (lZeilenversion >= 0) {
+        sSql += QStringLiteral(" and Zeilenversion = ") + QString::number(lZeilenversion);
+    }
+    return sSql;
 }
 
 void toggleActive(CRecordset& oTL) {

@@ -21,8 +21,9 @@ QString allRowsQuery();
 QString rowsQuery(const QString& sBedingung);
 QString deleteStatement(const QString& sBedingung);
 
-// The statement that stamps a job as changed now by lMitarbeiter, when its schedules changed.
-QString touchStatement(long lJobId, long lMitarbeiter);
+// The statement that stamps a job as changed now by lMitarbeiter, when its schedules changed;
+// with a row version (not -1), only while the row still has it.
+QString touchStatement(long lJobId, long lMitarbeiter, long lZeilenversion = -1);
 
 // Turns the job on the record set's current row off when it is on, else on, and writes it.
 void toggleActive(CRecordset& oTL);

@@ -106,8 +106,12 @@ void cAdminJob::mShowZeitplanEigenschaften(long lZeitplanId) {
                              QString::number(lZeitplanId);
         auto oTL = neuesRecordset(ex);
         oTL->Connect();
+        mlZeitplanZeilenversion = RowConflict::kNichtGelesen;
+        msZeitplanGelesen.clear();
         if (oTL->OpenQuery(sSql, 2) >= 1) {
             leseZeitplan(*oTL, *moSchedule);
+            mlZeitplanZeilenversion = RowConflict::version(*oTL);
+            msZeitplanGelesen = moSchedule->psName;
         } else {
             mSetDefaultIntervallZeitplan(mlZeilenGrdZeitplan());
         }

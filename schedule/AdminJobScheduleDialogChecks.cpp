@@ -98,7 +98,27 @@ bool cAdminJob::mZeitplanEigenschaftenUebernehmen() {
             }
             // A row that could not be written (e.g. the database locked by another writer)
             // keeps the schedule and its dialog, so that OK can be pressed again.
-            if (!mZeitplanSpeichern(mlZeitplanId, mlJobId, o)) {
+            if (mlJobId > 0 && mlAuftragZeilenversion != RowConflict::kNichtGelesen &&
+                !mbAuftragVorhanden(mlJobId)) {
+                // A schedule without its job would be lost with the next save of the job.
+                mlMsgBox(QStringLiteral("Der Auftrag „") + msJobName +
+                             QStringLiteral("“ wurde inzwischen an einem anderen Arbeitsplatz "
+                                            "gelöscht. Der Zeitplan kann nicht gespeichert "
+                                            "werden; schließen Sie diesen Dialog und speichern "
+                                            "Sie den Auftrag, um ihn neu anzulegen."),
+                         MsgStyle::Information);
+                return false;
+            }
+            const RowConflict::Speicherung ergebnis =
+                mZeitplanSpeichern(mlZeitplanId, mlJobId, o, mlZeitplanZeilenversion);
+            if (ergebnis == RowConflict::Speicherung::Verworfen) {
+                // The dialog shows the stored schedule, as on opening.
+                mbLadeZeitplan = true;
+                mShowZeitplanEigenschaften(mlZeitplanId);
+                mbLadeZeitplan = false;
+                return false;
+            }
+            if (ergebnis != RowConflict::Speicherung::Gespeichert) {
                 return false;
             }
             moSchedule.reset();

@@ -10,14 +10,27 @@
 #include "schedule/ScheduleStore.h"
 #include "schedule/ScheduleTime.h"
 
-bool cAdminJob::mZeitplanSpeichern(long& lZeitplanId, long& lJobId, cSchedule& oSchedule) {
+RowConflict::Speicherung cAdminJob::mZeitplanSpeichern(long& lZeitplanId, long& lJobId,
+                                                       cSchedule& oSchedule, long lGelesen) {
+    using RowConflict::Entscheidung;
+    using RowConflict::Speicherung;
     ErrorExit ex(QStringLiteral("mZeitplanSpeichern"), kKlasse);
     try {
         auto oTL = neuesRecordset(ex);
         oTL->Connect();
         const QString sSql =
             ScheduleStore::rowsQuery(QStringLiteral("idAutoJobSchedule"), lZeitplanId);
-        if (oTL->OpenQuery(sSql, 2) < 1) {
+        const bool bGefunden = oTL->OpenQuery(sSql, 2) >= 1;
+        const Entscheidung entscheidung =
+            mZeilenstandFragen(*oTL, bGefunden, lGelesen, QStringLiteral("Der Zeitplan"),
+                               msZeitplanGelesen, QStringLiteral("Ps_Id"));
+        if (entscheidung == Entscheidung::Abbrechen) {
+            return Speicherung::NichtGespeichert;
+        }
+        if (entscheidung == Entscheidung::Verwerfen) {
+            return Speicherung::Verworfen;
+        }
+        if (entscheidung == Entscheidung::NeuAnlegen) {
             oTL->AddNew();
         }
         ScheduleStore::writeColumns(*oTL, oSchedule, lJobId, required(moProperties).plMitId,
@@ -25,11 +38,11 @@ bool cAdminJob::mZeitplanSpeichern(long& lZeitplanId, long& lJobId, cSchedule& o
         oTL->Update(CRecordset::UpdateWrite, true);
         oTL->Close();
         oTL->Disconnect();
-        return true;
+        return Speicherung::Gespeichert;
     } catch (...) {
         ex.fail();
     }
-    return false;
+    return RowConflict::Speicherung::NichtGespeichert;
 }
 
 void cAdminJob::mZeitplanEinfuegen(long lJobIdNeu) {

@@ -155,7 +155,8 @@ void Database::applySchema() {
 
 void Database::upgradeSchema() {
     if (onServer_) {
-        return;  // the first version of the server's schema
+        backend_->upgradeSchema(connectionOf(connectionName_));
+        return;
     }
     sqlite3* db = sqliteHandle(connectionOf(connectionName_));
     if (db == nullptr) {
@@ -187,6 +188,10 @@ QStringList Database::applyDemoData(const QString& folder) {
         }
     }
     return folders;
+}
+
+void Database::inTransaction(const std::function<void()>& work) {
+    runInTransaction(*backend_, connectionOf(connectionName_), work);
 }
 
 void Database::runScript(const QString& script) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <functional>
 #include <memory>
 
 #include "common/Clock.h"
@@ -48,6 +49,9 @@ class Database : public std::enable_shared_from_this<Database> {
     QStringList applyDemoData(const QString& folder = QStringLiteral("/srv/zpk"));
     // Runs a whole script of several statements (schema, demo data, test set-up).
     void runScript(const QString& script);
+    // Runs work in one transaction: all of its writes or, when it throws, none. Nothing of it
+    // is repeated on a connection opened anew after a loss.
+    void inTransaction(const std::function<void()>& work);
 
     Services::Factory<CRecordset> recordsetFactory();
 

@@ -15,6 +15,8 @@
 namespace {
 
 const QString locatorPrefix = QStringLiteral("_ajv_locator_");
+// The column in which a table counts the writes of each row.
+const QString kVersionColumn = QStringLiteral("zeilenversion");
 
 QVariant dateValue(const QDateTime& date) {
     return date.isValid() ? QVariant(storedDateText(date)) : QVariant();
@@ -233,15 +235,35 @@ void DatabaseRecordset::updateRow(Row& row) {
     QStringList names;
     QVariantList values;
     writtenColumns(row, names, values);
-    const auto locator = backend().update(connection(), *table_, names, values, row.locator);
+    // A row that counts its writes is written only while it has the version read with it:
+    // no write of another workstation in between is undone unnoticed.
+    SqlTable checked = *table_;
+    QVariantList where = row.locator;
+    const qsizetype version = index_.value(kVersionColumn, -1);
+    if (version >= 0 && table_->columns.contains(kVersionColumn) && !row.written[version]) {
+        checked.locator << backend().quotedName(columns_[version].stored);
+        where << row.values[version];
+    }
+    const auto locator = backend().update(connection(), checked, names, values, where);
     if (!locator) {
         throw SqlErrors::raised(
             ErrNumber::Database,
-            QStringLiteral(
-                "Der Datensatz wurde nicht mehr gefunden; er wurde inzwischen gelöscht.\r\n") +
+            (rowExists(row) ? QStringLiteral("Der Datensatz wurde inzwischen an einem anderen "
+                                             "Arbeitsplatz geändert; Ihre Änderung wurde nicht "
+                                             "gespeichert. Bitte wiederholen Sie die "
+                                             "Aktion.\r\n")
+                            : QStringLiteral("Der Datensatz wurde nicht mehr gefunden; er wurde "
+                                             "inzwischen gelöscht.\r\n")) +
                 sql_.trimmed());
     }
-    row.locator = *locator;
+    row.locator = locator->mid(0, table_->locator.size());
+}
+
+bool DatabaseRecordset::rowExists(const Row& row) {
+    SqlBackend& server = backend();
+    const QString select = QStringLiteral("SELECT 1 FROM %1 WHERE %2")
+                               .arg(server.quotedName(table_->name), locatorCondition(*table_));
+    return runSql(server, connection(), select, row.locator, select).next();
 }
 
 void DatabaseRecordset::reloadRow(Row& row) {

@@ -85,6 +85,7 @@ class DatabaseRecordset : public CRecordset {
     void writtenColumns(const Row& row, QStringList& names, QVariantList& values) const;
     void insertRow(Row& row);
     void updateRow(Row& row);
+    bool rowExists(const Row& row);
     void reloadRow(Row& row);
     qsizetype addColumn(const QString& stored);
     qsizetype seek(qsizetype from, qsizetype step) const;

@@ -1,10 +1,12 @@
 #include "suite/PostgresBackend.h"
 
 #include <QDate>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QSqlError>
 #include <QSqlQuery>
 #include <QSqlRecord>
+#include <QThread>
 
 #include "suite/PostgresConnection.h"
 #include "suite/SqlDates.h"
@@ -111,14 +113,47 @@ void PostgresBackend::connect(const QString& connectionName, const PostgresAddre
     }
 }
 
-void PostgresBackend::recover(QSqlDatabase db, const QSqlError& error) const {
-    if (!connectionLost(error)) {
-        return;
-    }
+bool PostgresBackend::reopen(QSqlDatabase db) const {
+    // A restarting server answers again within a few seconds; a server that stays away is
+    // reported after that time, with the input still in the window.
+    constexpr qint64 kWartezeitMs = 5000;
+    constexpr unsigned long kPauseMs = 250;
+    QElapsedTimer waited;
+    waited.start();
     db.close();
-    if (db.open()) {
-        PostgresConnection::applySession(db, session_);
+    while (!db.open()) {
+        if (waited.elapsed() >= kWartezeitMs) {
+            return false;
+        }
+        QThread::msleep(kPauseMs);
     }
+    PostgresConnection::applySession(db, session_);
+    return true;
+}
+
+void PostgresBackend::ensureOpen(QSqlDatabase db) const {
+    // A connection closed by a failed reconnect raises no error of its own: it is opened
+    // here before the next statement.
+    if (!db.isOpen() && !reopen(db)) {
+        throw SqlErrors::serverAway(db.lastError().text().trimmed());
+    }
+}
+
+SqlBackend::Recovery PostgresBackend::recover(QSqlDatabase db, const QSqlError& error) const {
+    if (!connectionLost(error)) {
+        return Recovery::NotLost;
+    }
+    return reopen(db) ? Recovery::Reopened : Recovery::Away;
+}
+
+bool PostgresBackend::mayRepeat(const QString& sql, const QSqlError& error) const {
+    if (inTransaction()) {
+        return false;
+    }
+    // The server ended the session (a restart, an administrator): a statement it was running
+    // was rolled back, one sent afterwards never ran. A read may always run again.
+    return error.nativeErrorCode().startsWith(u"57P") ||
+           SqlDialect::leadingKeyword(sql) == u"select";
 }
 
 QString PostgresBackend::translate(const QString& serverSql, const QDateTime& now) const {
@@ -283,41 +318,53 @@ namespace {
 
 // Runs the statements in one transaction; `before` runs first within it and tells whether to
 // go on.
-void inTransaction(const SqlBackend& backend, QSqlDatabase db, const QString& script,
-                   const std::function<bool()>& before) {
-    if (!db.transaction()) {
-        throw backend.failure(db.lastError(), QStringLiteral("BEGIN"));
-    }
-    try {
+void scriptInTransaction(const SqlBackend& backend, QSqlDatabase db, const QString& script,
+                         const std::function<bool()>& before) {
+    runInTransaction(backend, db, [&] {
         if (before()) {
             for (const QString& statement : splitPostgresScript(script)) {
                 runSql(backend, db, statement, {}, statement.left(400));
             }
         }
-    } catch (...) {
-        db.rollback();
-        throw;
-    }
-    if (!db.commit()) {
-        const QSqlError error = db.lastError();
-        db.rollback();
-        throw backend.failure(error, QStringLiteral("COMMIT"));
-    }
+    });
 }
 
 }  // namespace
 
 void PostgresBackend::runScript(const QSqlDatabase& db, const QString& script) const {
-    inTransaction(*this, db, script, [] { return true; });
+    scriptInTransaction(*this, db, script, [] { return true; });
 }
 
 void PostgresBackend::applySchema(const QSqlDatabase& db, const QString& script) const {
-    inTransaction(*this, db, script, [&] {
+    scriptInTransaction(*this, db, script, [&] {
         // Two workstations starting on a new database at once: the second waits for the
         // first and then finds the schema there.
         const QString lock = QStringLiteral("SELECT pg_advisory_xact_lock(7202611)");
         runSql(*this, db, lock, {}, lock);
         return isEmpty(db);
+    });
+}
+
+void PostgresBackend::upgradeSchema(const QSqlDatabase& db) const {
+    // The newest column of the upgrade tells whether it ran; the check comes first without the
+    // lock, so that a current database costs one query at the start.
+    const auto behind = [&] {
+        const QString newest = QStringLiteral(
+            "SELECT count(*) FROM information_schema.columns WHERE table_schema = "
+            "current_schema() AND table_name = 'tautojobschedule' AND column_name = "
+            "'zeilenversion'");
+        QSqlQuery query = runSql(*this, db, newest, {}, newest);
+        return query.next() && query.value(0).toLongLong() == 0;
+    };
+    if (!behind()) {
+        return;
+    }
+    QFile file(QStringLiteral(":/db/upgrade.postgresql.sql"));
+    file.open(QIODevice::ReadOnly);
+    scriptInTransaction(*this, db, QString::fromUtf8(file.readAll()), [&] {
+        const QString lock = QStringLiteral("SELECT pg_advisory_xact_lock(7202611)");
+        runSql(*this, db, lock, {}, lock);
+        return behind();
     });
 }
 

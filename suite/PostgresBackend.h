@@ -27,14 +27,19 @@ class PostgresBackend : public SqlBackend {
     QVariant value(const QVariant& read) const override;
     QString columnName(const QString& returned, const QString& statement) const override;
     RaisedError failure(const QSqlError& error, const QString& shown) const override;
-    void recover(QSqlDatabase db, const QSqlError& error) const override;
+    void ensureOpen(QSqlDatabase db) const override;
+    Recovery recover(QSqlDatabase db, const QSqlError& error) const override;
+    bool mayRepeat(const QString& sql, const QSqlError& error) const override;
     bool isEmpty(const QSqlDatabase& db) const override;
     void runScript(const QSqlDatabase& db, const QString& script) const override;
     void applySchema(const QSqlDatabase& db, const QString& script) const override;
+    void upgradeSchema(const QSqlDatabase& db) const override;
     QString schemaResource() const override { return QStringLiteral(":/db/schema.postgresql.sql"); }
 
   private:
     PostgresConnection::Session session_;
+    // Opens the lost connection again, waiting a bounded time; false when the server stays away.
+    bool reopen(QSqlDatabase db) const;
     QHash<QString, std::optional<SqlTable>> tables_;
     mutable QString spelledFor_;
     mutable QHash<QString, QString> spelling_;

@@ -27,9 +27,47 @@ QList<SchemaObject> objectsOf(sqlite3* db) {
     return objects;
 }
 
-}  // namespace
+// Column name and its definition as ALTER TABLE ... ADD COLUMN takes it.
+QList<QPair<QString, QString>> columnsOf(sqlite3* db, const QString& table) {
+    QList<QPair<QString, QString>> columns;
+    sqlite3_stmt* st = nullptr;
+    const QByteArray sql = "PRAGMA table_info(\"" +
+                           QString(table).replace(u'"', QStringLiteral("\"\"")).toUtf8() + "\")";
+    if (sqlite3_prepare_v2(db, sql.constData(), -1, &st, nullptr) != SQLITE_OK) {
+        throw SqlErrors::raised(ErrNumber::Internal, QString::fromUtf8(sqlite3_errmsg(db)));
+    }
+    while (sqlite3_step(st) == SQLITE_ROW) {
+        const QString name = text(st, 1);
+        QString definition = u'"' + name + QStringLiteral("\" ") + text(st, 2);
+        if (sqlite3_column_int(st, 3) != 0) {
+            definition += QStringLiteral(" NOT NULL");
+        }
+        if (sqlite3_column_type(st, 4) != SQLITE_NULL) {
+            definition += QStringLiteral(" DEFAULT ") + text(st, 4);
+        }
+        columns.append({name, definition});
+    }
+    sqlite3_finalize(st);
+    return columns;
+}
 
-QList<SchemaObject> schemaObjects(const QString& script) {
+// The columns a table of the schema has and the database's table of that name lacks.
+QStringList missingColumns(sqlite3* db, sqlite3* wanted, const QString& table) {
+    QStringList present;
+    for (const auto& column : columnsOf(db, table)) {
+        present << column.first.toLower();
+    }
+    QStringList statements;
+    for (const auto& column : columnsOf(wanted, table)) {
+        if (!present.contains(column.first.toLower())) {
+            statements
+                << QStringLiteral("ALTER TABLE \"%1\" ADD COLUMN %2").arg(table, column.second);
+        }
+    }
+    return statements;
+}
+
+sqlite3* scratchOf(const QString& script) {
     sqlite3* scratch = nullptr;
     sqlite3_open(":memory:", &scratch);
     char* message = nullptr;
@@ -40,6 +78,13 @@ QList<SchemaObject> schemaObjects(const QString& script) {
         sqlite3_close(scratch);
         throw SqlErrors::raised(ErrNumber::Internal, why);
     }
+    return scratch;
+}
+
+}  // namespace
+
+QList<SchemaObject> schemaObjects(const QString& script) {
+    sqlite3* scratch = scratchOf(script);
     QList<SchemaObject> objects = objectsOf(scratch);
     sqlite3_close(scratch);
     return objects;
@@ -56,7 +101,21 @@ QStringList schemaUpgrade(sqlite3* db, const QString& script) {
         return nullptr;
     };
     QStringList statements;
-    for (const SchemaObject& wanted : schemaObjects(script)) {
+    sqlite3* scratch = scratchOf(script);
+    const QList<SchemaObject> schema = objectsOf(scratch);
+    // Columns first: a trigger or view made afterwards may name them.
+    for (const SchemaObject& wanted : schema) {
+        if (wanted.type == QLatin1String("table") && find(wanted)) {
+            try {
+                statements << missingColumns(db, scratch, wanted.name);
+            } catch (...) {
+                sqlite3_close(scratch);
+                throw;
+            }
+        }
+    }
+    sqlite3_close(scratch);
+    for (const SchemaObject& wanted : schema) {
         const SchemaObject* have = find(wanted);
         if (!have) {
             statements << wanted.sql;

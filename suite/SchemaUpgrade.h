@@ -18,5 +18,5 @@ QList<SchemaObject> schemaObjects(const QString& script);
 
 // The statements that bring a database made by an earlier version up to the script's schema:
 // what is missing is created, a view that reads otherwise is made anew. Tables that exist
-// keep their rows and columns as they are.
+// keep their rows and columns and get the columns they lack, with their defaults.
 QStringList schemaUpgrade(sqlite3* db, const QString& script);

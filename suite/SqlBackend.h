@@ -6,6 +6,7 @@
 #include <QString>
 #include <QStringList>
 #include <QVariant>
+#include <functional>
 #include <optional>
 
 class QSqlError;
@@ -48,9 +49,32 @@ class SqlBackend {
         return returned;
     }
     virtual RaisedError failure(const QSqlError& error, const QString& shown) const = 0;
+
+    // What became of a connection after a failure.
+    enum class Recovery {
+        NotLost,   // the connection stands; the failure is the statement's own
+        Reopened,  // it was lost and is open again
+        Away,      // it was lost and the server did not answer within the waiting time
+    };
+    // Before a statement: a connection found closed is opened again, waiting a bounded time;
+    // throws the message of a server that stays away.
+    virtual void ensureOpen(QSqlDatabase /*db*/) const {}
     // After a failure: a connection the server dropped (a restart at night, a network cut) is
     // opened again, so that the failure is reported once and the next action works.
-    virtual void recover(QSqlDatabase /*db*/, const QSqlError& /*error*/) const {}
+    virtual Recovery recover(QSqlDatabase /*db*/, const QSqlError& /*error*/) const {
+        return Recovery::NotLost;
+    }
+    // Whether the statement that failed with the lost connection can be run again on the new
+    // one: nothing of it can have been committed. Never within a transaction, whose earlier
+    // statements went with the connection.
+    virtual bool mayRepeat(const QString& /*sql*/, const QSqlError& /*error*/) const {
+        return false;
+    }
+    // The program's transactions on the connection mark themselves, so that nothing of them
+    // is repeated on another connection.
+    void transactionBegun() const { ++transactions_; }
+    void transactionEnded() const { transactions_ = transactions_ > 0 ? transactions_ - 1 : 0; }
+    bool inTransaction() const { return transactions_ > 0; }
 
     // True when the database holds no table yet.
     virtual bool isEmpty(const QSqlDatabase& db) const = 0;
@@ -62,6 +86,12 @@ class SqlBackend {
         runScript(db, script);
     }
     virtual QString schemaResource() const = 0;
+    // Brings a database made by an earlier version up to the schema; where several
+    // workstations may start at once, only one upgrades. SQLite's is derived from the schema.
+    virtual void upgradeSchema(const QSqlDatabase& /*db*/) const {}
+
+  private:
+    mutable int transactions_ = 0;
 };
 
 class QSqlQuery;
@@ -69,5 +99,8 @@ class QSqlQuery;
 // caller wrote it, named in the failure.
 QSqlQuery runSql(const SqlBackend& backend, const QSqlDatabase& db, const QString& sql,
                  const QVariantList& values, const QString& shown);
+// Runs work in one transaction of the connection: all of its writes or, when it throws, none.
+void runInTransaction(const SqlBackend& backend, QSqlDatabase db,
+                      const std::function<void()>& work);
 // `<locator 1> = ? AND ...`, for the locator's values.
 QString locatorCondition(const SqlTable& table);

@@ -17,6 +17,22 @@ RaisedError lockWait(long number, const QString& driverText) {
         number, driverText.isEmpty() ? kLockWait : kLockWait + QStringLiteral("\r\n") + driverText);
 }
 
+RaisedError serverAway(const QString& driverText) {
+    constexpr long kCantOpen = 14;  // SQLite's "unable to open", as for a server refusing
+    return raised(kCantOpen, driverText.isEmpty()
+                                 ? kServerAway
+                                 : kServerAway + QStringLiteral("\r\n") + driverText);
+}
+
+RaisedError serverBack(const QString& driverText) {
+    constexpr long kCantOpen = 14;
+    const QString text = QStringLiteral(
+        "Die Verbindung zum Datenbankserver war unterbrochen und ist wieder hergestellt. Bitte "
+        "wiederholen Sie die Aktion; Ihre Eingaben bleiben erhalten.");
+    return raised(kCantOpen,
+                  driverText.isEmpty() ? text : text + QStringLiteral("\r\n") + driverText);
+}
+
 RaisedError fromDriver(const QSqlError& error, const QString& sql) {
     bool ok = false;
     // The primary result code; the connection reports extended ones.

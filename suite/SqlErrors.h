@@ -27,6 +27,14 @@ inline const QString kLockWait = QStringLiteral(
     "Die Daten werden gerade an einem anderen Arbeitsplatz gespeichert. Bitte versuchen Sie es "
     "in einigen Sekunden erneut; Ihre Eingaben bleiben erhalten.");
 RaisedError lockWait(long number, const QString& driverText);
+// The server could not be reached again after the connection was lost: what the user can do,
+// then the driver's words on a line of their own.
+inline const QString kServerAway = QStringLiteral(
+    "Die Verbindung zum Datenbankserver ist unterbrochen. Ihre Eingaben bleiben erhalten; bitte "
+    "versuchen Sie es erneut, sobald der Server wieder erreichbar ist.");
+RaisedError serverAway(const QString& driverText);
+// The connection was lost during a statement that may not be repeated, and is open again.
+RaisedError serverBack(const QString& driverText);
 // A failure of the driver: number is SQLite's error code, the description names the
 // statement.
 RaisedError fromDriver(const QSqlError& error, const QString& sql);

@@ -23,6 +23,7 @@ struct ControlDecl {
     QString group;           // option buttons of one group exclude one another
     bool multiLine = false;  // text box of many lines
     bool password = false;   // text box that hides its text
+    int maxLength = 0;       // text box: the most characters the user can type, 0 for any
     bool visible = true;
     bool enabled = true;
     QStringList tabCaptions;  // tab control: the pages' captions

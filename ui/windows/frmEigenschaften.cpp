@@ -1,5 +1,6 @@
 #include "ui/windows/frmEigenschaften.h"
 
+#include "common/ColumnLimits.h"
 #include "common/ModuleHelpers.h"
 #include "common/Services.h"
 
@@ -58,7 +59,8 @@ class Declaration {
 
     void general() {
         page_ = 0;
-        add("txtTextBox", frmEigenschaften::Txt::Name, ControlKind::TextBox, "Name");
+        add("txtTextBox", frmEigenschaften::Txt::Name, ControlKind::TextBox, "Name").maxLength =
+            ColumnLimits::kAuftragName;
         add("cboComboBox", frmEigenschaften::Cbo::Auftragsart, ControlKind::ComboBox, "Auftragsart",
             "Datenart auswählen");
         add("chkCheckBox", frmEigenschaften::Chk::Aktiviert, ControlKind::CheckBox, "Aktiviert",
@@ -97,7 +99,8 @@ class Declaration {
         add("fraImport", -1, ControlKind::Frame);
         within("fraImport");
         add("txtTextBox", frmEigenschaften::Txt::Importdaten, ControlKind::TextBox, "Importdaten",
-            "Verzeichnis der Importdaten auswählen");
+            "Verzeichnis der Importdaten auswählen")
+            .maxLength = ColumnLimits::kMTAPath;
         add("cmdCommandButton", frmEigenschaften::Cmd::Importverzeichnis, ControlKind::Button,
             "...", "Verzeichnis der Importdaten auswählen");
         add("txtTextBox", frmEigenschaften::Txt::Backup, ControlKind::TextBox, "Backup",
@@ -105,7 +108,8 @@ class Declaration {
         add("cmdCommandButton", frmEigenschaften::Cmd::Backupverzeichnis, ControlKind::Button,
             "...", "Verzeichnis für das Backup der importierten Dateien");
         add("txtTextBox", frmEigenschaften::Txt::Logfiles, ControlKind::TextBox, "Logfiles",
-            "Verzeichnis für die Logfiles");
+            "Verzeichnis für die Logfiles")
+            .maxLength = ColumnLimits::kErrorMTA;
         add("cmdCommandButton", frmEigenschaften::Cmd::Logverzeichnis, ControlKind::Button, "...",
             "Verzeichnis für die Logfiles");
         add("ctlMitarbeiterBuchProp", -1, ControlKind::Selection, "",
@@ -118,10 +122,12 @@ class Declaration {
         add("chkCheckBox", frmEigenschaften::Chk::EinfachesLog, ControlKind::CheckBox,
             "vereinfachtes Logfile");
         add("ctlFremdFilter", -1, ControlKind::TextBox, "Dateiname",
-            "Geben Sie hier bitte ein, in welcher Form die Importdateien vorliegen; z.B. *.csv");
+            "Geben Sie hier bitte ein, in welcher Form die Importdateien vorliegen; z.B. *.csv")
+            .maxLength = ColumnLimits::kFremdDateifilter;
         add("ctlFremdMapping", -1, ControlKind::TextBox, "Mappingdatei",
             "Geben Sie hier den Namen der Datei mit den Kontenzuordnungen ein. Diese Datei muss "
-            "im Importverzeichnis liegen.");
+            "im Importverzeichnis liegen.")
+            .maxLength = ColumnLimits::kFremdMapping;
         add("cmdCommandButton", frmEigenschaften::Cmd::Mappingdatei, ControlKind::Button, "...",
             "Auswahl der Mappingdatei");
         add("lblLabel", frmEigenschaften::Lbl::BuchungsLog, ControlKind::Label);

@@ -1,5 +1,7 @@
 #include "ui/windows/frmZeitplan.h"
 
+#include "common/ColumnLimits.h"
+
 using contract::fire;
 using contract::is;
 
@@ -14,7 +16,8 @@ class Declaration {
         d_.width = 460;
         d_.height = 320;
 
-        add("txtTextBox", frmZeitplan::Txt::Name, ControlKind::TextBox, "Name");
+        add("txtTextBox", frmZeitplan::Txt::Name, ControlKind::TextBox, "Name").maxLength =
+            ColumnLimits::kZeitplanName;
         add("chkCheckBox", -1, ControlKind::CheckBox, "Aktiviert");
         add("frmFrame", frmZeitplan::Fra::Zeitplantyp, ControlKind::Frame, "Zeitplantyp");
         container_ = QStringLiteral("frmFrame(%1)").arg(frmZeitplan::Fra::Zeitplantyp);
