@@ -6,6 +6,7 @@
 #include <QPlainTextEdit>
 #include <QTest>
 
+#include "common/ColumnLimits.h"
 #include "tests/host/ProgramFixture.h"
 #include "ui/windows/frmEigenschaften.h"
 #include "ui/windows/frmZeitplan.h"
@@ -58,12 +59,13 @@ using TextFieldsRoundTripTest = ProgramFixture;
 
 TEST_F(TextFieldsRoundTripTest, JobNameAndDescriptionAreStoredAndShownAsTyped) {
     const QString jobs = scalar(QStringLiteral("SELECT count(*) FROM tAutoJobJob"));
-    const QString name = kAwkward;
+    // The name box takes the hundred characters the server stores; the description any.
+    const QString name = ColumnLimits::leftCharacters(kAwkward, ColumnLimits::kAuftragName);
     const QString description = longText();
     QString shownAfterReopen;
     bool done = false;
     whenShown(QStringLiteral("frmEigenschaften"), [&](QWidget* w) {
-        pasteOver(find(w, QStringLiteral("txtTextBox"), frmEigenschaften::Txt::Name), name);
+        pasteOver(find(w, QStringLiteral("txtTextBox"), frmEigenschaften::Txt::Name), kAwkward);
         pasteOver(find(w, QStringLiteral("txtTextBox"), frmEigenschaften::Txt::Beschreibung),
                   description);
         click(find(w, QStringLiteral("cmdCommandButton"), frmEigenschaften::Cmd::Ok));
@@ -94,13 +96,13 @@ TEST_F(TextFieldsRoundTripTest, JobNameAndDescriptionAreStoredAndShownAsTyped) {
     EXPECT_EQ(shownAfterReopen, description);
 }
 
-TEST_F(TextFieldsRoundTripTest, ScheduleNameIsStoredAsTyped) {
-    const QString name = longText();
+TEST_F(TextFieldsRoundTripTest, ScheduleNameIsStoredAsTypedUpToItsLimit) {
+    const QString name = ColumnLimits::leftCharacters(longText(), ColumnLimits::kZeitplanName);
     bool done = false;
     whenShown(QStringLiteral("frmEigenschaften"), [&](QWidget* w) {
         clickTab(find(w, QStringLiteral("tabControl")), frmEigenschaften::Tab::Zeitplaene);
         whenShown(QStringLiteral("frmZeitplan"), [&](QWidget* plan) {
-            pasteOver(find(plan, QStringLiteral("txtTextBox"), frmZeitplan::Txt::Name), name);
+            pasteOver(find(plan, QStringLiteral("txtTextBox"), frmZeitplan::Txt::Name), longText());
             click(find(plan, QStringLiteral("cmdCommandButton"), frmZeitplan::Cmd::Ok));
         });
         click(find(w, QStringLiteral("cmdCommandButton"), frmEigenschaften::Cmd::ZeitplanNeu));

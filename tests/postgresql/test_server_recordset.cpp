@@ -266,6 +266,38 @@ TEST_F(ServerRecordset, AConnectionTheServerDroppedIsOpenedAgainAndTheStatementR
     EXPECT_EQ(rs->ReadText("t"), "300ms");
 }
 
+TEST_F(ServerRecordset, AnOlderDatabaseCountsTheWritesOfJobsAndSchedulesAfterTheUpgrade) {
+    elsewhere(
+        "ALTER TABLE tAutoJobJob DROP COLUMN Zeilenversion;"
+        "ALTER TABLE tAutoJobSchedule DROP COLUMN Zeilenversion;"
+        "DROP FUNCTION zeilenversion_weiterzaehlen() CASCADE;"
+        "INSERT INTO tAutoJobJob (Name) VALUES ('Alt');"
+        "INSERT INTO tAutoJobSchedule (idAutoJob, Name) VALUES (1, 'Nachts')");
+    db->upgradeSchema();
+    db->upgradeSchema();  // once up to date, nothing is left to do
+    elsewhere(
+        "UPDATE tAutoJobJob SET Name = 'Neu'; UPDATE tAutoJobJob SET Aktiviert = 0;"
+        "UPDATE tAutoJobSchedule SET Aktiviert = 0");
+    EXPECT_EQ(stored("SELECT Name || '|' || Zeilenversion FROM tAutoJobJob"), "Neu|2");
+    EXPECT_EQ(stored("SELECT Zeilenversion FROM tAutoJobSchedule"), "1");
+
+    // The record set writes only the row as it read it: a write of another workstation in
+    // between is not undone.
+    auto rs = recordset();
+    ASSERT_EQ(rs->OpenQuery("select * from tAutoJobSchedule"), 1);
+    elsewhere("UPDATE tAutoJobSchedule SET Name = 'Von Jonas'");
+    rs->WriteText("Aktiviert", "1");
+    const ErrObject changed = failure([&] { rs->Update(0); });
+    EXPECT_TRUE(changed.Description.startsWith(
+        QStringLiteral("Der Datensatz wurde inzwischen an einem anderen Arbeitsplatz geändert")))
+        << changed.Description.toStdString();
+    elsewhere("DELETE FROM tAutoJobSchedule");
+    const ErrObject gone = failure([&] { rs->Update(0); });
+    EXPECT_TRUE(gone.Description.startsWith(
+        QStringLiteral("Der Datensatz wurde nicht mehr gefunden; er wurde inzwischen gelöscht.")))
+        << gone.Description.toStdString();
+}
+
 TEST(ServerSchema, TwoWorkstationsStartingOnANewDatabaseApplyTheSchemaOnce) {
     ServerDatabase server;
     const QString address = PostgresConnection::addressOf(server.name());

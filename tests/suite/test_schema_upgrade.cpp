@@ -76,3 +76,39 @@ TEST(SchemaUpgrade, AnOlderDatabaseGetsTheMissingTablesAndTheNewViewsAndKeepsIts
     EXPECT_EQ(schemaUpgrade(db, QString::fromUtf8(schema.readAll())), QStringList());
     sqlite3_close(db);
 }
+
+TEST(SchemaUpgrade, JobsAndSchedulesOfAnOlderDatabaseCountTheirWritesAfterTheUpgrade) {
+    QTemporaryDir dir;
+    SuiteConfig config;
+    config.databasePath = dir.filePath(QStringLiteral("alt.sqlite"));
+    config.paths.insert(83, dir.filePath(QStringLiteral("data")));
+    {
+        auto db = Database::open(config.databasePath, std::make_shared<SystemClock>());
+        db->applySchema();
+        db->runScript(
+            QStringLiteral("DROP TRIGGER trAutoJobJob_Zeilenversion;"
+                           "DROP TRIGGER trAutoJobSchedule_Zeilenversion;"
+                           "ALTER TABLE tAutoJobJob DROP COLUMN Zeilenversion;"
+                           "ALTER TABLE tAutoJobSchedule DROP COLUMN Zeilenversion;"
+                           "INSERT INTO tAutoJobJob (Name, DatenArt) VALUES ('Alt', 17);"
+                           "INSERT INTO tAutoJobSchedule (idAutoJob, Name) VALUES (1, 'Nachts');"));
+    }
+    {
+        auto db = openSuiteDatabase(config, std::make_shared<SystemClock>());
+        // Any writer counts: the agent, the sqlite3 shell, this program.
+        db->runScript(
+            QStringLiteral("UPDATE tAutoJobJob SET Name = 'Neu';"
+                           "UPDATE tAutoJobJob SET Aktiviert = 0;"
+                           "UPDATE tAutoJobSchedule SET Aktiviert = 0;"));
+    }
+    const QString path = config.databasePath;
+    EXPECT_EQ(scalar(path, "SELECT Name || '|' || Zeilenversion FROM tAutoJobJob"),
+              QStringLiteral("Neu|2"));
+    EXPECT_EQ(scalar(path, "SELECT Zeilenversion FROM tAutoJobSchedule"), QStringLiteral("1"));
+    // A writer that sets the version itself is left alone.
+    sqlite3* db = nullptr;
+    sqlite3_open(path.toUtf8().constData(), &db);
+    sqlite3_exec(db, "UPDATE tAutoJobJob SET Zeilenversion = 10", nullptr, nullptr, nullptr);
+    sqlite3_close(db);
+    EXPECT_EQ(scalar(path, "SELECT Zeilenversion FROM tAutoJobJob"), QStringLiteral("10"));
+}
