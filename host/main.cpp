@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QIcon>
 #include <QTextStream>
+#include <cstdlib>
 
 #include "common/CommandLine.h"
 #include "common/ErrorExit.h"
@@ -13,6 +14,7 @@
 #include "host/DesktopProgram.h"
 #include "host/HostMainWindow.h"
 #include "host/JobTransferCommands.h"
+#include "host/JournalCsv.h"
 #include "suite/SuiteConfig.h"
 
 namespace {
@@ -23,6 +25,8 @@ struct Options {
     QString shot;
     QString exportFile;
     QString importFile;
+    bool journal = false;
+    QString journalJob;
 };
 
 bool hasArgument(int argc, char* argv[], const char* name) {
@@ -39,7 +43,8 @@ bool prepareDisplay(int argc, char* argv[]) {
     const bool windowless =
         hasArgument(argc, argv, "--summary") || hasArgument(argc, argv, "--export") ||
         hasArgument(argc, argv, "--import") || hasArgument(argc, argv, "--shot") ||
-        hasArgument(argc, argv, "--help") || hasArgument(argc, argv, "-h");
+        hasArgument(argc, argv, "--journal") || hasArgument(argc, argv, "--help") ||
+        hasArgument(argc, argv, "-h");
     if (!qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM") ||
         !qEnvironmentVariableIsEmpty("DISPLAY") ||
         !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY")) {
@@ -101,11 +106,16 @@ Options parseOptions(const QApplication& app, SuiteConfig& config) {
         QStringLiteral("Fügt die Aufträge aus DATEI (von --export geschrieben) als neue "
                        "Aufträge hinzu; hat die Datei einen Fehler, wird nichts geschrieben."),
         QStringLiteral("DATEI"));
+    const QCommandLineOption journal(
+        QStringLiteral("journal"),
+        QStringLiteral("Schreibt das Änderungsprotokoll als CSV (Semikolon, UTF-8) auf die "
+                       "Standardausgabe: mit einer folgenden Auftrags-Id das dieses Auftrags, "
+                       "sonst das aller Aufträge."));
     CommandLine commandLine(
         QStringLiteral("Konfiguration automatischer Aufträge. Ohne --db öffnet das Programm die "
                        "eingebettete Demodatenbank und legt sie beim ersten Start an."),
         {db, configFile, mandant, mitarbeiter, aktentyp, installationsart, summary, shot,
-         exportJobs, importJobs});
+         exportJobs, importJobs, journal});
     commandLine.process(app);
     const QCommandLineParser& parser = commandLine.parser();
 
@@ -128,6 +138,17 @@ Options parseOptions(const QApplication& app, SuiteConfig& config) {
     o.shot = parser.value(shot);
     o.exportFile = parser.value(exportJobs);
     o.importFile = parser.value(importJobs);
+    o.journal = parser.isSet(journal);
+    if (o.journal) {
+        const QStringList rest = parser.positionalArguments();
+        if (rest.size() > 1) {
+            QTextStream(stderr) << QStringLiteral(
+                "Nach --journal steht höchstens eine "
+                "Auftrags-Id.\n");
+            std::exit(EXIT_FAILURE);
+        }
+        o.journalJob = rest.value(0);
+    }
     return o;
 }
 
@@ -153,7 +174,7 @@ int main(int argc, char* argv[]) {
         // A desktop user never sees the console: the window-less modes keep writing there,
         // the window says it in a message box.
         const QString text = databaseOpenFailureText(config->databasePath, e.err());
-        if (options.summary || !options.shot.isEmpty()) {
+        if (options.summary || options.journal || !options.shot.isEmpty()) {
             QTextStream(stderr) << QString(text).replace(QStringLiteral("\r\n"),
                                                          QStringLiteral("\n"))
                                 << "\n";
@@ -166,6 +187,9 @@ int main(int argc, char* argv[]) {
 
     if (!options.importFile.isEmpty()) {
         return JobTransfer::importCommand(program->database(), options.importFile, config->mitId);
+    }
+    if (options.journal) {
+        return JournalCsv::command(program->database(), options.journalJob);
     }
     if (!options.exportFile.isEmpty()) {
         return JobTransfer::exportCommand(program->database(), options.exportFile);

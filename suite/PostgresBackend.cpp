@@ -346,13 +346,17 @@ void PostgresBackend::applySchema(const QSqlDatabase& db, const QString& script)
 }
 
 void PostgresBackend::upgradeSchema(const QSqlDatabase& db) const {
-    // The newest column of the upgrade tells whether it ran; the check comes first without the
-    // lock, so that a current database costs one query at the start.
+    // The newest objects of the upgrade tell whether it ran: each count is 1 once it did. The
+    // check comes first without the lock, so that a current database costs one query at the
+    // start.
     const auto behind = [&] {
         const QString newest = QStringLiteral(
-            "SELECT count(*) FROM information_schema.columns WHERE table_schema = "
+            "SELECT least("
+            "(SELECT count(*) FROM information_schema.columns WHERE table_schema = "
             "current_schema() AND table_name = 'tautojobschedule' AND column_name = "
-            "'zeilenversion'");
+            "'zeilenversion'), "
+            "(SELECT count(*) FROM information_schema.tables WHERE table_schema = "
+            "current_schema() AND table_name = 'tautojobjournal'))");
         QSqlQuery query = runSql(*this, db, newest, {}, newest);
         return query.next() && query.value(0).toLongLong() == 0;
     };

@@ -66,7 +66,8 @@ TEST(CommandLineHelpTest, TheProgramsHelpIsGermanAndListsEveryOption) {
                 QStringLiteral("--mandant <ID>"), QStringLiteral("--mitarbeiter <ID>"),
                 QStringLiteral("--aktentyp <N>"), QStringLiteral("--installationsart <N>"),
                 QStringLiteral("--summary "), QStringLiteral("--shot <DATEI>"),
-                QStringLiteral("--export <DATEI>"), QStringLiteral("--import <DATEI>")});
+                QStringLiteral("--export <DATEI>"), QStringLiteral("--import <DATEI>"),
+                QStringLiteral("--journal ")});
 }
 
 TEST(CommandLineHelpTest, TheAgentsHelpIsGermanAndListsEveryOption) {
