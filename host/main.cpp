@@ -7,6 +7,7 @@
 
 #include "common/CommandLine.h"
 #include "common/ErrorExit.h"
+#include "gui/QtGerman.h"
 #include "gui/QtUi.h"
 #include "host/DatabaseOpenFailure.h"
 #include "host/DemoSummary.h"
@@ -138,6 +139,7 @@ int main(int argc, char* argv[]) {
         return 2;
     }
     QApplication app(argc, argv);
+    useGermanEverywhere();
     QApplication::setApplicationName(QStringLiteral("autojobverw"));
     // Installed, the desktop entry and the icon theme carry the program's name and icon.
     QGuiApplication::setDesktopFileName(QStringLiteral("autojobverw"));

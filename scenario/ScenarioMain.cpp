@@ -6,6 +6,7 @@
 #include <QTextStream>
 #include <memory>
 
+#include "gui/QtGerman.h"
 #include "gui/QtWindowFactory.h"
 #include "scenario/ScenarioProgram.h"
 
@@ -41,6 +42,7 @@ int main(int argc, char* argv[]) {
         }
         qInstallMessageHandler(quietOffscreen);
         app = std::make_unique<QApplication>(argc, argv);
+        useGermanEverywhere();
     } else {
         app = std::make_unique<QCoreApplication>(argc, argv);
     }
