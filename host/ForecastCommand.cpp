@@ -1,0 +1,139 @@
+#include "host/ForecastCommand.h"
+
+#include <QDateTime>
+#include <algorithm>
+#include <tuple>
+
+#include "app/cSchedule.h"
+#include "common/Recordset.h"
+#include "forecast/RunForecast.h"
+#include "schedule/ScheduleStore.h"
+#include "schedule/ScheduleTime.h"
+#include "suite/Database.h"
+
+namespace ForecastCommand {
+
+namespace {
+
+constexpr qint64 kEpochDay = 2440588;  // Julian day of 1970-01-01
+
+// A local time as the wall clock reading; false when the text is no such time.
+bool wallOf(const QString& text, qint64& wall) {
+    const QDateTime t = QDateTime::fromString(text, QStringLiteral("yyyy-MM-dd HH:mm:ss"));
+    if (!t.isValid()) {
+        return false;
+    }
+    wall = (t.date().toJulianDay() - kEpochDay) * LocalClock::kDay +
+           t.time().msecsSinceStartOfDay() / 1000;
+    return true;
+}
+
+ScheduleRule ruleOf(const cSchedule& o) {
+    ScheduleRule r;
+    r.lFreqencyType = o.plFrequencyType;
+    r.lFrequencyInterval = o.plFrequencyIntervall;
+    r.lFrequencyRecurrenceFactor = o.plFrequencyRecurreFactor;
+    r.lFrequencyRelativeInterval = o.plFrequencyRelativeIntervall;
+    r.lFrequencySubDay = o.plFrequencySubDay;
+    r.lFrequencySubDayinterval = o.plFrequencySubDayIntervall;
+    r.lActiveStartTimeOfDay = zeitAlsZahl(o.pvActiveStartTimeOfDay);
+    r.lActiveEndTimeOfDay = zeitAlsZahl(o.pvActiveEndTimeOfDay);
+    r.dActiveStartDate = o.pdtActiveStartDate.date();
+    r.dActiveEndDate = o.pdtActiveEndDate.date();
+    return r;
+}
+
+QString schedulesQuery(long jobId) {
+    QString sql = QStringLiteral(
+        "select s.* from tAutoJobSchedule s inner join tAutoJobJob j on j.idAutoJob = "
+        "s.idAutoJob where s.Aktiviert <> 0 and j.Aktiviert <> 0");
+    if (jobId > 0) {
+        sql += QStringLiteral(" and j.idAutoJob = ") + QString::number(jobId);
+    }
+    return sql;
+}
+
+bool jobExists(CRecordset& recordset, long jobId) {
+    const bool found =
+        recordset.OpenQuery(QStringLiteral("select idAutoJob from tAutoJobJob where idAutoJob = ") +
+                                QString::number(jobId),
+                            2) >= 1;
+    recordset.Close();
+    return found;
+}
+
+}  // namespace
+
+QList<PlannedStart> plannedStarts(Database& database, qint64 fromUtc, qint64 toUtc, long jobId,
+                                  LocalClock& clock) {
+    QList<PlannedStart> starts;
+    const std::unique_ptr<CRecordset> recordset = database.recordsetFactory()();
+    recordset->Connect();
+    if (recordset->OpenQuery(schedulesQuery(jobId), 2) >= 1) {
+        do {
+            cSchedule o;
+            ScheduleStore::readColumns(*recordset, o);
+            const long job = recordset->ReadLong(QStringLiteral("idAutoJob"));
+            const long schedule = recordset->ReadLong(QStringLiteral("idAutoJobSchedule"));
+            for (const ForecastRun& r : RunForecast::runs(ruleOf(o), fromUtc, toUtc, clock)) {
+                starts.append({r.utc, r.wall, job, schedule});
+            }
+        } while (recordset->Move(CRecordset::MoveNext));
+    }
+    recordset->Close();
+    recordset->Disconnect();
+    std::sort(starts.begin(), starts.end(), [](const PlannedStart& x, const PlannedStart& y) {
+        return std::tie(x.utc, x.job, x.schedule) < std::tie(y.utc, y.job, y.schedule);
+    });
+    return starts;
+}
+
+int run(Database& database, const Arguments& a, const QTimeZone& zone, QTextStream& out,
+        QTextStream& err) {
+    const QString form = QStringLiteral("(Form: yyyy-MM-dd HH:mm:ss)");
+    LocalClock clock(zone);
+    qint64 fromUtc = database.clock().now().toSecsSinceEpoch();
+    qint64 fromWall = clock.wallAt(fromUtc);
+    if (!a.von.isEmpty()) {
+        if (!wallOf(a.von, fromWall)) {
+            err << "--von: \"" << a.von << "\" ist kein gültiger Zeitpunkt " << form << ".\n";
+            return 1;
+        }
+        fromUtc = clock.at(fromWall).utc;
+    }
+    qint64 toWall = fromWall + 7 * LocalClock::kDay;
+    if (!a.bis.isEmpty() && !wallOf(a.bis, toWall)) {
+        err << "--bis: \"" << a.bis << "\" ist kein gültiger Zeitpunkt " << form << ".\n";
+        return 1;
+    }
+    const qint64 toUtc = clock.at(toWall).utc;
+    if (toUtc < fromUtc) {
+        err << "--bis liegt vor --von.\n";
+        return 1;
+    }
+    long jobId = 0;
+    if (!a.auftrag.isEmpty()) {
+        bool ok = false;
+        jobId = a.auftrag.toLong(&ok);
+        if (!ok || jobId <= 0) {
+            err << "--auftrag: \"" << a.auftrag << "\" ist keine Auftragsnummer.\n";
+            return 1;
+        }
+    }
+
+    const std::unique_ptr<CRecordset> recordset = database.recordsetFactory()();
+    recordset->Connect();
+    if (jobId > 0 && !jobExists(*recordset, jobId)) {
+        recordset->Disconnect();
+        err << "Den Auftrag " << jobId << " gibt es nicht.\n";
+        return 1;
+    }
+    recordset->Disconnect();
+    for (const PlannedStart& l : plannedStarts(database, fromUtc, toUtc, jobId, clock)) {
+        out << RunForecast::storedText(l.wall) << '\t' << l.job << '\t' << l.schedule << '\n';
+    }
+    out.flush();
+    return 0;
+}
+
+}  // namespace ForecastCommand
