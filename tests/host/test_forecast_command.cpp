@@ -73,6 +73,7 @@ class ForecastCommandTest : public ::testing::Test {
         QProcessEnvironment env;
         env.insert(QStringLiteral("TZ"), QStringLiteral("Europe/Berlin"));
         env.insert(QStringLiteral("HOME"), dir_.path());
+        env.insert(QStringLiteral("XDG_RUNTIME_DIR"), dir_.path());
         return runProgram(QStringLiteral(AJV_PROGRAM),
                           QStringList{QStringLiteral("--db"), db_} + arguments, env);
     }
