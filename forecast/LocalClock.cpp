@@ -14,14 +14,17 @@ qint64 LocalClock::wallAt(qint64 utc) const {
 }
 
 std::pair<int, int> LocalClock::offsetsAround(qint64 day) {
-    auto it = days_.constFind(day);
-    if (it != days_.constEnd()) {
-        return *it;
+    if (day == lastDay_) {
+        return lastOffsets_;
     }
-    const qint64 midnight = day * kDay;
-    const std::pair<int, int> offsets{offsetAt(midnight - kDay), offsetAt(midnight + 2 * kDay)};
-    days_.insert(day, offsets);
-    return offsets;
+    auto it = days_.constFind(day);
+    if (it == days_.constEnd()) {
+        const qint64 midnight = day * kDay;
+        it = days_.insert(day, {offsetAt(midnight - kDay), offsetAt(midnight + 2 * kDay)});
+    }
+    lastDay_ = day;
+    lastOffsets_ = *it;
+    return lastOffsets_;
 }
 
 LocalClock::Moment LocalClock::at(qint64 wall) {

@@ -3,6 +3,7 @@
 #include <QHash>
 #include <QTimeZone>
 #include <QtGlobal>
+#include <limits>
 #include <utility>
 
 // The wall clock of a time zone. Moments are seconds since 1970-01-01 00:00 UTC; a wall clock
@@ -40,4 +41,7 @@ class LocalClock {
 
     QTimeZone zone_;
     QHash<qint64, std::pair<int, int>> days_;
+    // The day asked for last: a schedule's starts come day by day.
+    qint64 lastDay_ = std::numeric_limits<qint64>::min();
+    std::pair<int, int> lastOffsets_;
 };

@@ -4,6 +4,7 @@
 #include <QDateTime>
 #include <QTime>
 #include <algorithm>
+#include <limits>
 #include <vector>
 
 namespace {
@@ -150,11 +151,10 @@ QTime timeOf(qint64 wall) {
 
 namespace RunForecast {
 
-QList<ForecastRun> runs(const ScheduleRule& r, qint64 fromUtc, qint64 toUtc, LocalClock& clock,
-                        int limit) {
-    QList<ForecastRun> out;
+void eachRun(const ScheduleRule& r, qint64 fromUtc, qint64 toUtc, LocalClock& clock,
+             const std::function<bool(const ForecastRun&)>& take) {
     if (!ruleFault(r).isEmpty() || fromUtc >= toUtc) {
-        return out;
+        return;
     }
     // A window opened the day before may still run past midnight.
     const QDate first = dateOf(clock.wallAt(fromUtc)).addDays(-1);
@@ -163,6 +163,7 @@ QList<ForecastRun> runs(const ScheduleRule& r, qint64 fromUtc, qint64 toUtc, Loc
         last = r.dActiveEndDate;
     }
     const std::vector<qint64> window = windowSeconds(r);
+    qint64 lastUtc = std::numeric_limits<qint64>::min();
     for (QDate d = nextDay(r, first); d.isValid() && d <= last; d = nextDay(r, d.addDays(1))) {
         const qint64 midnight = (d.toJulianDay() - kEpochDay) * kDay;
         for (const qint64 t : window) {
@@ -171,17 +172,26 @@ QList<ForecastRun> runs(const ScheduleRule& r, qint64 fromUtc, qint64 toUtc, Loc
                 continue;
             }
             if (m.utc >= toUtc) {
-                return out;
+                return;
             }
-            if (!out.isEmpty() && out.constLast().utc == m.utc) {
+            if (m.utc == lastUtc) {
                 continue;  // merged by the spring change: the earlier reading stays
             }
-            out.append({m.utc, m.wall, midnight + t});
-            if (limit > 0 && out.size() >= limit) {
-                return out;
+            lastUtc = m.utc;
+            if (!take({m.utc, m.wall, midnight + t})) {
+                return;
             }
         }
     }
+}
+
+QList<ForecastRun> runs(const ScheduleRule& r, qint64 fromUtc, qint64 toUtc, LocalClock& clock,
+                        int limit) {
+    QList<ForecastRun> out;
+    eachRun(r, fromUtc, toUtc, clock, [&](const ForecastRun& run) {
+        out.append(run);
+        return limit <= 0 || out.size() < limit;
+    });
     return out;
 }
 

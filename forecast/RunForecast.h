@@ -3,6 +3,7 @@
 #include <QList>
 #include <QString>
 #include <QtGlobal>
+#include <functional>
 
 #include "forecast/LocalClock.h"
 #include "forecast/ScheduleRule.h"
@@ -34,6 +35,10 @@ namespace RunForecast {
 // start once.
 QList<ForecastRun> runs(const ScheduleRule& rule, qint64 fromUtc, qint64 toUtc, LocalClock& clock,
                         int limit = 0);
+
+// The same starts handed one by one to take, until it gives false.
+void eachRun(const ScheduleRule& rule, qint64 fromUtc, qint64 toUtc, LocalClock& clock,
+             const std::function<bool(const ForecastRun&)>& take);
 
 // "Mo 30.03.2026 03:00", the list's form of a start.
 QString runText(const ForecastRun& run);

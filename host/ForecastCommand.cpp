@@ -2,7 +2,7 @@
 
 #include <QDateTime>
 #include <algorithm>
-#include <tuple>
+#include <vector>
 
 #include "app/cSchedule.h"
 #include "common/Recordset.h"
@@ -50,7 +50,8 @@ QString schedulesQuery(long jobId) {
     if (jobId > 0) {
         sql += QStringLiteral(" and j.idAutoJob = ") + QString::number(jobId);
     }
-    return sql;
+    // In the order of the lines at one moment: a stable sort by time alone keeps it.
+    return sql + QStringLiteral(" order by s.idAutoJob, s.idAutoJobSchedule");
 }
 
 bool jobExists(CRecordset& recordset, long jobId) {
@@ -60,6 +61,32 @@ bool jobExists(CRecordset& recordset, long jobId) {
                             2) >= 1;
     recordset.Close();
     return found;
+}
+
+// Stable by time. A month holds a million starts: two passes of a counting sort over the
+// seconds from the period's start, where they fit into 32 bits.
+void sortByTime(QList<PlannedStart>& starts, qint64 fromUtc, qint64 toUtc) {
+    if (toUtc - fromUtc >= (qint64(1) << 32)) {
+        std::stable_sort(
+            starts.begin(), starts.end(),
+            [](const PlannedStart& x, const PlannedStart& y) { return x.utc < y.utc; });
+        return;
+    }
+    std::vector<PlannedStart> sorted(static_cast<size_t>(starts.size()));
+    std::vector<qsizetype> at(65537);
+    for (const int shift : {0, 16}) {
+        std::fill(at.begin(), at.end(), 0);
+        for (const PlannedStart& p : std::as_const(starts)) {
+            ++at[((p.utc - fromUtc) >> shift & 0xFFFF) + 1];
+        }
+        for (size_t k = 1; k < at.size(); ++k) {
+            at[k] += at[k - 1];
+        }
+        for (const PlannedStart& p : std::as_const(starts)) {
+            sorted[static_cast<size_t>(at[(p.utc - fromUtc) >> shift & 0xFFFF]++)] = p;
+        }
+        std::copy(sorted.begin(), sorted.end(), starts.begin());
+    }
 }
 
 }  // namespace
@@ -75,16 +102,15 @@ QList<PlannedStart> plannedStarts(Database& database, qint64 fromUtc, qint64 toU
             ScheduleStore::readColumns(*recordset, o);
             const long job = recordset->ReadLong(QStringLiteral("idAutoJob"));
             const long schedule = recordset->ReadLong(QStringLiteral("idAutoJobSchedule"));
-            for (const ForecastRun& r : RunForecast::runs(ruleOf(o), fromUtc, toUtc, clock)) {
+            RunForecast::eachRun(ruleOf(o), fromUtc, toUtc, clock, [&](const ForecastRun& r) {
                 starts.append({r.utc, r.wall, job, schedule});
-            }
+                return true;
+            });
         } while (recordset->Move(CRecordset::MoveNext));
     }
     recordset->Close();
     recordset->Disconnect();
-    std::sort(starts.begin(), starts.end(), [](const PlannedStart& x, const PlannedStart& y) {
-        return std::tie(x.utc, x.job, x.schedule) < std::tie(y.utc, y.job, y.schedule);
-    });
+    sortByTime(starts, fromUtc, toUtc);
     return starts;
 }
 
