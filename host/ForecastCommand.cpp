@@ -7,8 +7,8 @@
 #include "app/cSchedule.h"
 #include "common/Recordset.h"
 #include "forecast/RunForecast.h"
+#include "forecast/ScheduleRuleOf.h"
 #include "schedule/ScheduleStore.h"
-#include "schedule/ScheduleTime.h"
 #include "suite/Database.h"
 
 namespace ForecastCommand {
@@ -26,21 +26,6 @@ bool wallOf(const QString& text, qint64& wall) {
     wall = (t.date().toJulianDay() - kEpochDay) * LocalClock::kDay +
            t.time().msecsSinceStartOfDay() / 1000;
     return true;
-}
-
-ScheduleRule ruleOf(const cSchedule& o) {
-    ScheduleRule r;
-    r.lFreqencyType = o.plFrequencyType;
-    r.lFrequencyInterval = o.plFrequencyIntervall;
-    r.lFrequencyRecurrenceFactor = o.plFrequencyRecurreFactor;
-    r.lFrequencyRelativeInterval = o.plFrequencyRelativeIntervall;
-    r.lFrequencySubDay = o.plFrequencySubDay;
-    r.lFrequencySubDayinterval = o.plFrequencySubDayIntervall;
-    r.lActiveStartTimeOfDay = zeitAlsZahl(o.pvActiveStartTimeOfDay);
-    r.lActiveEndTimeOfDay = zeitAlsZahl(o.pvActiveEndTimeOfDay);
-    r.dActiveStartDate = o.pdtActiveStartDate.date();
-    r.dActiveEndDate = o.pdtActiveEndDate.date();
-    return r;
 }
 
 QString schedulesQuery(long jobId) {
@@ -102,10 +87,11 @@ QList<PlannedStart> plannedStarts(Database& database, qint64 fromUtc, qint64 toU
             ScheduleStore::readColumns(*recordset, o);
             const long job = recordset->ReadLong(QStringLiteral("idAutoJob"));
             const long schedule = recordset->ReadLong(QStringLiteral("idAutoJobSchedule"));
-            RunForecast::eachRun(ruleOf(o), fromUtc, toUtc, clock, [&](const ForecastRun& r) {
-                starts.append({r.utc, r.wall, job, schedule});
-                return true;
-            });
+            RunForecast::eachRun(scheduleRuleOf(o), fromUtc, toUtc, clock,
+                                 [&](const ForecastRun& r) {
+                                     starts.append({r.utc, r.wall, job, schedule});
+                                     return true;
+                                 });
         } while (recordset->Move(CRecordset::MoveNext));
     }
     recordset->Close();
