@@ -236,6 +236,8 @@ class cAdminJob {
     // Fills "Nächste Ausführungen" of the schedule dialog and the recurrence dialog, of
     // those that are open, from what stands in them.
     void mNaechsteAusfuehrungenZeigen();
+    // Opens "Ausführungsplan" for all jobs (0) or for one; a job not saved yet has none.
+    void mAusfuehrungsplanZeigen(long lJobId);
 
     // ---- Schedules (schedule/AdminJobSchedule.cpp, schedule/AdminJobScheduleSentence.cpp) --
 
