@@ -183,13 +183,17 @@ void cAusfuehrungsplan::planFuellen() {
     const qint64 bis = clock.at((mdBis.toJulianDay() - 2440588) * LocalClock::kDay).utc;
     QList<Start> starts;
     QList<int> ohne;
+    auto gezeigt = [&](int i) {
+        const Zeitplan& z = maZeitplaene[i];
+        return (lMandant < 0 || z.sMandant == sMandant) && (lArt < 0 || z.lDatenArt == lArt);
+    };
+    // Every start, so that one of a job type filtered out still marks an overlap.
     for (int i = 0; i < maZeitplaene.size(); ++i) {
         const Zeitplan& z = maZeitplaene[i];
-        if ((lMandant >= 0 && z.sMandant != sMandant) || (lArt >= 0 && z.lDatenArt != lArt)) {
-            continue;
-        }
         if (!ruleFault(z.regel).isEmpty()) {
-            ohne << i;
+            if (gezeigt(i)) {
+                ohne << i;
+            }
             continue;
         }
         RunForecast::eachRun(z.regel, von, bis, clock, [&](const ForecastRun& run) {
@@ -229,8 +233,15 @@ void cAusfuehrungsplan::planFuellen() {
         grd.AddItem(QStringLiteral("Keine Ausführung\t%1\t%2\t%3\t%4")
                         .arg(z.sAuftrag, z.sZeitplan, z.sMandant, ruleFault(z.regel)));
     }
-    const int iZeigen = std::min<int>(static_cast<int>(starts.size()), kHoechstens);
-    for (int k = 0; k < iZeigen; ++k) {
+    QList<int> zeilen;
+    for (int k = 0; k < starts.size(); ++k) {
+        if (gezeigt(starts[k].zeitplan)) {
+            zeilen << k;
+        }
+    }
+    const int iZeigen = std::min<int>(static_cast<int>(zeilen.size()), kHoechstens);
+    for (int n = 0; n < iZeigen; ++n) {
+        const int k = zeilen[n];
         const Zeitplan& z = maZeitplaene[starts[k].zeitplan];
         QStringList hinweis;
         if (nah[k]) {
@@ -244,9 +255,9 @@ void cAusfuehrungsplan::planFuellen() {
                     u'\t' + z.sMandant + u'\t' + hinweis.join(QStringLiteral("; ")));
     }
 
-    QString sSumme = starts.size() == 1 ? QStringLiteral("1 Start")
-                                        : QStringLiteral("%1 Starts").arg(starts.size());
-    if (starts.size() > iZeigen) {
+    QString sSumme = zeilen.size() == 1 ? QStringLiteral("1 Start")
+                                        : QStringLiteral("%1 Starts").arg(zeilen.size());
+    if (zeilen.size() > iZeigen) {
         sSumme += QStringLiteral(", gezeigt die ersten %1").arg(iZeigen);
     }
     sSumme += QStringLiteral(". Nicht aktiv und nicht berücksichtigt: ") +
