@@ -6,6 +6,8 @@
 #include <memory>
 #include <random>
 
+#include "forecast/ScheduleRule.h"
+
 class AgentWriter;
 class Database;
 
@@ -14,8 +16,10 @@ class Database;
 // and never writes to them. Works on an SQLite file and on a PostgreSQL server alike (the
 // writing is the AgentWriter's).
 struct AgentOptions {
-    int years = 0;          // bulk: the period that ends now
-    qint64 runsPerJob = 0;  // bulk: runs of each job over the period; 0 as its schedules say
+    int years = 0;  // bulk: the period that ends now
+    // bulk: runs of each job over the period; 0 as the schedules of the active jobs say, at
+    // the moments of the forecast of runs in the machine's time zone
+    qint64 runsPerJob = 0;
     qint64 logEntries = 0;  // bulk: log entries over the period; 0 a few per run
     long jobId = 0;         // only this job; 0 all jobs with a schedule
     quint32 seed = 1;       // the same seed writes the same rows
@@ -56,7 +60,8 @@ class JobAgentSimulator {
         QString backupPath;
         QString errorMta;
         long mandant = 0;
-        qint64 intervalSecs = 86400;
+        bool jobActive = true;
+        ScheduleRule rule;  // when the schedule starts the job (forecast/RunForecast.h)
     };
 
     void writeRun(const Schedule& s, const QDateTime& at);

@@ -4,6 +4,7 @@
 
 #include "common/Clock.h"
 #include "common/ModuleHelpers.h"
+#include "forecast/cAusfuehrungsplan.h"
 #include "gui/QtBookingLogDisplay.h"
 #include "gui/QtUi.h"
 #include "gui/QtWindowFactory.h"
@@ -59,6 +60,7 @@ DesktopProgram::DesktopProgram(std::shared_ptr<SuiteConfig> config)
                                     [session = session_.get()] { session->refresh(); });
     };
     window_->onRefresh = [session = session_.get()] { session->refresh(); };
+    window_->onPlan = [] { cAusfuehrungsplan().zeigen(0); };
 }
 
 DesktopProgram::~DesktopProgram() {
@@ -68,6 +70,7 @@ DesktopProgram::~DesktopProgram() {
     window_->onExport = nullptr;
     window_->onImport = nullptr;
     window_->onRefresh = nullptr;
+    window_->onPlan = nullptr;
     session_.reset();
     window_.reset();
     scope_.reset();

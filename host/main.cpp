@@ -4,6 +4,8 @@
 #include <QApplication>
 #include <QIcon>
 #include <QTextStream>
+#include <QTimeZone>
+#include <cstdlib>
 
 #include "common/CommandLine.h"
 #include "common/ErrorExit.h"
@@ -12,6 +14,7 @@
 #include "host/DatabaseOpenFailure.h"
 #include "host/DemoSummary.h"
 #include "host/DesktopProgram.h"
+#include "host/ForecastCommand.h"
 #include "host/HostMainWindow.h"
 #include "host/JobTransferCommands.h"
 #include "suite/SuiteConfig.h"
@@ -24,6 +27,8 @@ struct Options {
     QString shot;
     QString exportFile;
     QString importFile;
+    bool forecast = false;
+    ForecastCommand::Arguments forecastArguments;
 };
 
 bool hasArgument(int argc, char* argv[], const char* name) {
@@ -40,7 +45,8 @@ bool prepareDisplay(int argc, char* argv[]) {
     const bool windowless =
         hasArgument(argc, argv, "--summary") || hasArgument(argc, argv, "--export") ||
         hasArgument(argc, argv, "--import") || hasArgument(argc, argv, "--shot") ||
-        hasArgument(argc, argv, "--help") || hasArgument(argc, argv, "-h");
+        hasArgument(argc, argv, "--vorschau") || hasArgument(argc, argv, "--help") ||
+        hasArgument(argc, argv, "-h");
     if (!qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM") ||
         !qEnvironmentVariableIsEmpty("DISPLAY") ||
         !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY")) {
@@ -102,11 +108,27 @@ Options parseOptions(const QApplication& app, SuiteConfig& config) {
         QStringLiteral("Fügt die Aufträge aus DATEI (von --export geschrieben) als neue "
                        "Aufträge hinzu; hat die Datei einen Fehler, wird nichts geschrieben."),
         QStringLiteral("DATEI"));
+    const QCommandLineOption vorschau(
+        QStringLiteral("vorschau"),
+        QStringLiteral("Gibt die Starts der aktiven Zeitpläne aktiver Aufträge aus, je Zeile "
+                       "Zeitpunkt (Ortszeit), Auftrag und Zeitplan, getrennt durch Tabulatoren."));
+    const QCommandLineOption von(
+        QStringLiteral("von"),
+        QStringLiteral("Mit --vorschau: Beginn des Zeitraums, eingeschlossen (Vorgabe: jetzt)."),
+        QStringLiteral("yyyy-MM-dd HH:mm:ss"));
+    const QCommandLineOption bis(
+        QStringLiteral("bis"),
+        QStringLiteral("Mit --vorschau: Ende des Zeitraums, ausgeschlossen (Vorgabe: sieben "
+                       "Tage nach dem Beginn)."),
+        QStringLiteral("yyyy-MM-dd HH:mm:ss"));
+    const QCommandLineOption auftrag(
+        QStringLiteral("auftrag"),
+        QStringLiteral("Mit --vorschau: nur die Starts dieses Auftrags."), QStringLiteral("ID"));
     CommandLine commandLine(
         QStringLiteral("Konfiguration automatischer Aufträge. Ohne --db öffnet das Programm die "
                        "eingebettete Demodatenbank und legt sie beim ersten Start an."),
         {db, configFile, mandant, mitarbeiter, aktentyp, installationsart, summary, shot,
-         exportJobs, importJobs});
+         exportJobs, importJobs, vorschau, von, bis, auftrag});
     commandLine.process(app);
     const QCommandLineParser& parser = commandLine.parser();
 
@@ -129,6 +151,13 @@ Options parseOptions(const QApplication& app, SuiteConfig& config) {
     o.shot = parser.value(shot);
     o.exportFile = parser.value(exportJobs);
     o.importFile = parser.value(importJobs);
+    o.forecast = parser.isSet(vorschau);
+    o.forecastArguments = {parser.value(von), parser.value(bis), parser.value(auftrag)};
+    if (!o.forecast && (parser.isSet(von) || parser.isSet(bis) || parser.isSet(auftrag))) {
+        QTextStream(stderr) << "autojobverw: --von, --bis und --auftrag gelten nur mit "
+                               "--vorschau.\n";
+        std::exit(1);
+    }
     return o;
 }
 
@@ -155,7 +184,7 @@ int main(int argc, char* argv[]) {
         // A desktop user never sees the console: the window-less modes keep writing there,
         // the window says it in a message box.
         const QString text = databaseOpenFailureText(config->databasePath, e.err());
-        if (options.summary || !options.shot.isEmpty()) {
+        if (options.summary || options.forecast || !options.shot.isEmpty()) {
             QTextStream(stderr) << QString(text).replace(QStringLiteral("\r\n"),
                                                          QStringLiteral("\n"))
                                 << "\n";
@@ -168,6 +197,17 @@ int main(int argc, char* argv[]) {
 
     if (!options.importFile.isEmpty()) {
         return JobTransfer::importCommand(program->database(), options.importFile, config->mitId);
+    }
+    if (options.forecast) {
+        QTextStream out(stdout);
+        QTextStream err(stderr);
+        try {
+            return ForecastCommand::run(program->database(), options.forecastArguments,
+                                        QTimeZone::systemTimeZone(), out, err);
+        } catch (const RaisedError& e) {
+            err << e.err().Description << "\n";
+            return 1;
+        }
     }
     if (!options.exportFile.isEmpty()) {
         return JobTransfer::exportCommand(program->database(), options.exportFile);

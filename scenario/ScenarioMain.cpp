@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QCoreApplication>
 #include <QTextStream>
+#include <ctime>
 #include <memory>
 
 #include "gui/QtGerman.h"
@@ -33,6 +34,10 @@ void quietOffscreen(QtMsgType type, const QMessageLogContext& context, const QSt
 }  // namespace
 
 int main(int argc, char* argv[]) {
+    // As the clock stands still, the zone is fixed: forecasts across a clock change read the
+    // same on every machine.
+    qputenv("TZ", "Europe/Berlin");
+    tzset();
     std::unique_ptr<QCoreApplication> app;
     if (wantsQt(argc, argv)) {
         if (qEnvironmentVariableIsEmpty("DISPLAY") &&
