@@ -356,6 +356,50 @@ AgentCounts JobAgentSimulator::fillYears() {
     return counts_;
 }
 
+qint64 JobAgentSimulator::runDue() {
+    const QDateTime now = database_->clock().now();
+    const qint64 nowUtc = now.toSecsSinceEpoch();
+    if (dueFromUtc_ < 0) {
+        dueFromUtc_ = nowUtc;  // what was due before the agent started is not made up
+    }
+    if (nowUtc <= dueFromUtc_) {
+        return 0;
+    }
+    LocalClock clock(QTimeZone::systemTimeZone());
+    struct Due {
+        qint64 wall;
+        qsizetype schedule;
+    };
+    QList<Due> due;
+    for (qsizetype i = 0; i < schedules_.size(); ++i) {
+        if (!schedules_[i].jobActive) {
+            continue;
+        }
+        // Starts after the last look, up to and including now.
+        for (const ForecastRun& run :
+             RunForecast::runs(schedules_[i].rule, dueFromUtc_ + 1, nowUtc + 1, clock)) {
+            due.append({run.wall + kEpochSeconds, i});
+        }
+    }
+    std::stable_sort(due.begin(), due.end(),
+                     [](const Due& a, const Due& b) { return a.wall < b.wall; });
+    const AgentCounts before = counts_;
+    try {
+        writer_->begin();
+        for (const Due& d : due) {
+            writeRun(schedules_[d.schedule], fromSeconds(d.wall));
+        }
+        writer_->commit();
+    } catch (...) {
+        // Nothing of these runs stays; the next call makes them again.
+        writer_->rollback();
+        counts_ = before;
+        throw;
+    }
+    dueFromUtc_ = nowUtc;
+    return due.size();
+}
+
 bool JobAgentSimulator::runOnce() {
     if (schedules_.isEmpty()) {
         return false;

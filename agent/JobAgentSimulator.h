@@ -47,6 +47,10 @@ class JobAgentSimulator {
     // One run of the next schedule at the moment now, with its log entries, in one short
     // transaction. Gives false when there is no schedule to run.
     bool runOnce();
+    // The runs whose starts the forecast gives after the last call (the first call: after
+    // the moment before it) up to and including now, each schedule of an active job at its
+    // own moment, in one short transaction. Gives their number.
+    qint64 runDue();
 
     const AgentCounts& counts() const { return counts_; }
 
@@ -76,7 +80,8 @@ class JobAgentSimulator {
     std::unique_ptr<AgentWriter> writer_;
     QList<Schedule> schedules_;
     qsizetype next_ = 0;
-    QDateTime runAt_;  // the run the job entries being written belong to
+    qint64 dueFromUtc_ = -1;  // runDue: the starts after this moment are still to be made
+    QDateTime runAt_;         // the run the job entries being written belong to
     std::mt19937 rng_;
     AgentCounts counts_;
 };

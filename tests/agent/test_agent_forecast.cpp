@@ -91,3 +91,42 @@ TEST(AgentForecast, TheRunsOfAYearAreTheForecastsStarts) {
 }
 
 }  // namespace
+
+namespace {
+
+TEST(AgentForecast, LiveTheRunsComeAtTheForecastsStartsAsTheClockReachesThem) {
+    AgentTestDatabase data;
+    auto clock = std::make_shared<FixedClock>(QDateTime(QDate(2026, 11, 2), QTime(8, 0, 0)));
+    auto db = Database::open(data.path, clock);
+    // One schedule every 15 minutes from 08:10 to 09:00; every other schedule off.
+    db->runScript(QStringLiteral(
+        "UPDATE tAutoJobSchedule SET Aktiviert = 0; "
+        "UPDATE tAutoJobJob SET Aktiviert = 1 WHERE idAutoJob = 1; "
+        "INSERT INTO tAutoJobSchedule (idAutoJob, Name, Aktiviert, FreqencyType, "
+        "FrequencyInterval, FrequencySubDay, FrequencySubDayinterval, ActiveStartTimeOfDay, "
+        "ActiveEndTimeOfDay, ActiveStartDate, ActiveEndDate) VALUES (1, 'Viertelstündlich', 1, "
+        "4, 1, 4, 15, 81000, 90000, '2026-01-01 00:00:00', '9999-12-31 00:00:00'); "
+        "DELETE FROM tAutoJobVerlauf"));
+    JobAgentSimulator agent(db, AgentOptions{});
+    ASSERT_EQ(agent.loadSchedules(), 1);
+    EXPECT_EQ(agent.runDue(), 0);  // what was due before the start is not made up
+    clock->set(QDateTime(QDate(2026, 11, 2), QTime(8, 9, 59)));
+    EXPECT_EQ(agent.runDue(), 0);
+    clock->set(QDateTime(QDate(2026, 11, 2), QTime(8, 10, 0)));
+    EXPECT_EQ(agent.runDue(), 1);
+    EXPECT_EQ(agent.runDue(), 0);  // the same moment again makes nothing twice
+    clock->set(QDateTime(QDate(2026, 11, 2), QTime(9, 30, 0)));
+    EXPECT_EQ(agent.runDue(), 3);  // 08:25, 08:40, 08:55; the window ends at 09:00
+    QSqlQuery q(QSqlDatabase::database(db->connectionName(), false));
+    ASSERT_TRUE(
+        q.exec(QStringLiteral("SELECT group_concat(LetzteAusfuehrung, ',') FROM "
+                              "(SELECT LetzteAusfuehrung FROM tAutoJobVerlauf ORDER BY "
+                              "idAutoJobVerlauf)")));
+    ASSERT_TRUE(q.next());
+    EXPECT_EQ(q.value(0).toString(),
+              QStringLiteral("2026-11-02 08:10:00,2026-11-02 08:25:00,2026-11-02 08:40:00,"
+                             "2026-11-02 08:55:00"));
+    EXPECT_EQ(agent.counts().runs, 4);
+}
+
+}  // namespace
