@@ -10,6 +10,7 @@
 #include "suite/SqlDates.h"
 #include "suite/SqlDialect.h"
 #include "suite/SqlErrors.h"
+#include "suite/SqlFullText.h"
 #include "suite/SqlTokens.h"
 
 namespace {
@@ -122,7 +123,8 @@ void PostgresBackend::recover(QSqlDatabase db, const QSqlError& error) const {
 }
 
 QString PostgresBackend::translate(const QString& serverSql, const QDateTime& now) const {
-    return SqlDialect::translate(serverSql, now, SqlDialect::Target::Postgres);
+    return SqlDialect::translate(SqlFullText::rewrite(serverSql, SqlDialect::Target::Postgres), now,
+                                 SqlDialect::Target::Postgres);
 }
 
 std::optional<SqlTable> PostgresBackend::table(const QSqlDatabase& db, const QString& name,

@@ -2,6 +2,7 @@
 
 #include <sqlite3.h>
 
+#include "suite/SchemaUpgradeFullText.h"
 #include "suite/SqlErrors.h"
 
 namespace {
@@ -56,10 +57,14 @@ QStringList schemaUpgrade(sqlite3* db, const QString& script) {
         return nullptr;
     };
     QStringList statements;
-    for (const SchemaObject& wanted : schemaObjects(script)) {
+    const QList<SchemaObject> schema = schemaObjects(script);
+    for (const SchemaObject& wanted : schema) {
+        if (SchemaUpgradeFullText::isShadowTable(schema, wanted)) {
+            continue;
+        }
         const SchemaObject* have = find(wanted);
         if (!have) {
-            statements << wanted.sql;
+            statements << wanted.sql << SchemaUpgradeFullText::afterCreate(wanted);
         } else if (wanted.type == QLatin1String("view") && have->sql != wanted.sql) {
             statements << QStringLiteral("DROP VIEW \"%1\"").arg(have->name) << wanted.sql;
         }
