@@ -53,7 +53,8 @@ SELECT i,
            WHEN 4 THEN printf('Datei \\Server\Import\Mandant%04d\Buchungen_%03d.txt gesichert',
                               i % 400, i % 365)
            ELSE printf('Belegart %d: %d Belege verschlagwortet', 1 + i % 40, i % 120) END,
-       CASE WHEN i % 9 = 0 THEN printf('Zeile %d: Konto %d ist im Wirtschaftsjahr nicht angelegt.',
+       CASE WHEN i % 1000 = 1 THEN 'Sammelrechnung geprüft und übergeben.'
+            WHEN i % 9 = 0 THEN printf('Zeile %d: Konto %d ist im Wirtschaftsjahr nicht angelegt.',
                                        i % 311, 1000 + i % 8000)
             ELSE NULL END
   FROM e LEFT JOIN tAutoJobJob j ON j.idAutoJob = e.job
@@ -124,12 +125,33 @@ void create(const QString& path, long long total) {
         const QString name = index.section(u' ', 2, 2);
         db.run(QStringLiteral("DROP INDEX ") + name);
     }
+    // The full-text index, too, is built once from the entries rather than kept entry by entry.
+    QStringList triggers;
+    {
+        sqlite3_stmt* stmt = nullptr;
+        sqlite3_prepare_v2(db.handle(),
+                           "SELECT name, sql FROM sqlite_master WHERE type = 'trigger' AND "
+                           "tbl_name = 'SYS_JobAgentLogDaten'",
+                           -1, &stmt, nullptr);
+        while (sqlite3_step(stmt) == SQLITE_ROW) {
+            db.run(QStringLiteral("DROP TRIGGER ") +
+                   QString::fromUtf8(reinterpret_cast<const char*>(sqlite3_column_text(stmt, 0))));
+            triggers << QString::fromUtf8(
+                reinterpret_cast<const char*>(sqlite3_column_text(stmt, 1)));
+        }
+        sqlite3_finalize(stmt);
+    }
     const long long step = 1000000;
     for (long long from = 1; from <= total; from += step) {
         fill(db, from, std::min(total, from + step - 1), total);
     }
     for (const QString& index : indexes) {
         db.run(index);
+    }
+    db.run(QStringLiteral(
+        "INSERT INTO SYS_JobAgentLogDaten_Suche (SYS_JobAgentLogDaten_Suche) VALUES ('rebuild')"));
+    for (const QString& trigger : triggers) {
+        db.run(trigger);
     }
     db.run(QStringLiteral("DELETE FROM sqlite_stat1"));
     for (const QString& statistic : statistics) {
