@@ -15,6 +15,18 @@ namespace {
 constexpr long long kStart = 1609459200;
 constexpr long long kSpan = 1826LL * 24 * 60 * 60;
 
+// The first column of every row of the statement, as text.
+QStringList firstColumn(RawSqlite& db, const char* sql) {
+    QStringList texts;
+    sqlite3_stmt* stmt = nullptr;
+    sqlite3_prepare_v2(db.handle(), sql, -1, &stmt, nullptr);
+    while (sqlite3_step(stmt) == SQLITE_ROW) {
+        texts << QString::fromUtf8(reinterpret_cast<const char*>(sqlite3_column_text(stmt, 0)));
+    }
+    sqlite3_finalize(stmt);
+    return texts;
+}
+
 }  // namespace
 
 void fill(RawSqlite& db, long long from, long long to, long long total) {
@@ -94,52 +106,25 @@ void create(const QString& path, long long total) {
                    .arg(kArten[j % 9]));
     }
     // The indexes are built once after the entries, which is far quicker than keeping them.
-    QStringList indexes;
-    {
-        sqlite3_stmt* stmt = nullptr;
-        sqlite3_prepare_v2(db.handle(),
-                           "SELECT sql FROM sqlite_master WHERE type = 'index' AND "
-                           "tbl_name = 'SYS_JobAgentLogDaten' AND sql IS NOT NULL",
-                           -1, &stmt, nullptr);
-        while (sqlite3_step(stmt) == SQLITE_ROW) {
-            indexes << QString::fromUtf8(
-                reinterpret_cast<const char*>(sqlite3_column_text(stmt, 0)));
-        }
-        sqlite3_finalize(stmt);
-    }
+    const QStringList indexes =
+        firstColumn(db,
+                    "SELECT sql FROM sqlite_master WHERE type = 'index' AND "
+                    "tbl_name = 'SYS_JobAgentLogDaten' AND sql IS NOT NULL");
     // Dropping an index drops its statistics: they are written back with the index.
-    QStringList statistics;
-    {
-        sqlite3_stmt* stmt = nullptr;
-        sqlite3_prepare_v2(db.handle(),
-                           "SELECT printf('INSERT INTO sqlite_stat1 VALUES (%Q, %Q, %Q)', tbl, "
-                           "idx, stat) FROM sqlite_stat1",
-                           -1, &stmt, nullptr);
-        while (sqlite3_step(stmt) == SQLITE_ROW) {
-            statistics << QString::fromUtf8(
-                reinterpret_cast<const char*>(sqlite3_column_text(stmt, 0)));
-        }
-        sqlite3_finalize(stmt);
-    }
-    for (const QString& index : indexes) {
-        const QString name = index.section(u' ', 2, 2);
-        db.run(QStringLiteral("DROP INDEX ") + name);
-    }
+    const QStringList statistics =
+        firstColumn(db,
+                    "SELECT printf('INSERT INTO sqlite_stat1 VALUES (%Q, %Q, %Q)', tbl, "
+                    "idx, stat) FROM sqlite_stat1");
     // The full-text index, too, is built once from the entries rather than kept entry by entry.
-    QStringList triggers;
-    {
-        sqlite3_stmt* stmt = nullptr;
-        sqlite3_prepare_v2(db.handle(),
-                           "SELECT name, sql FROM sqlite_master WHERE type = 'trigger' AND "
-                           "tbl_name = 'SYS_JobAgentLogDaten'",
-                           -1, &stmt, nullptr);
-        while (sqlite3_step(stmt) == SQLITE_ROW) {
-            db.run(QStringLiteral("DROP TRIGGER ") +
-                   QString::fromUtf8(reinterpret_cast<const char*>(sqlite3_column_text(stmt, 0))));
-            triggers << QString::fromUtf8(
-                reinterpret_cast<const char*>(sqlite3_column_text(stmt, 1)));
-        }
-        sqlite3_finalize(stmt);
+    const QStringList triggers =
+        firstColumn(db,
+                    "SELECT sql FROM sqlite_master WHERE type = 'trigger' AND "
+                    "tbl_name = 'SYS_JobAgentLogDaten'");
+    for (const QString& index : indexes) {
+        db.run(QStringLiteral("DROP INDEX ") + index.section(u' ', 2, 2));
+    }
+    for (const QString& trigger : triggers) {
+        db.run(QStringLiteral("DROP TRIGGER ") + trigger.section(u' ', 2, 2));
     }
     const long long step = 1000000;
     for (long long from = 1; from <= total; from += step) {
