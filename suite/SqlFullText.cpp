@@ -53,9 +53,11 @@ QString condition(const QString& table, const QList<Term>& query, SqlDialect::Ta
                              (t.prefix ? QStringLiteral(":*") : QString());
             }
         }
+        // The hits' ids as one array, found once through the index: as a join the planner
+        // would walk the whole table in the browser's order and test every entry's words.
         return QStringLiteral(
-                   "%1.Id IN (SELECT Id FROM SYS_JobAgentLogDaten WHERE "
-                   "to_tsvector('simple', %2) @@ to_tsquery('simple', %3))")
+                   "%1.Id = ANY (ARRAY(SELECT Id FROM SYS_JobAgentLogDaten WHERE "
+                   "to_tsvector('simple', %2) @@ to_tsquery('simple', %3)))")
             .arg(table, kLogTexte, literal(parts.join(QStringLiteral(" & "))));
     }
     for (const Term& t : query) {

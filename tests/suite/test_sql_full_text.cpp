@@ -25,11 +25,11 @@ TEST(SqlFullText, ContainsOnTheLogBecomesAMatchOnSqliteAndATextSearchOnPostgresq
               QStringLiteral(
                   "SELECT * FROM SYS_JobAgentLogDaten_Anzeigen WHERE "
                   "(SYS_JobAgentLogDaten_Anzeigen.Typ = 2) AND (SYS_JobAgentLogDaten_Anzeigen.Id "
-                  "IN (SELECT Id FROM SYS_JobAgentLogDaten WHERE to_tsvector('simple', "
+                  "= ANY (ARRAY(SELECT Id FROM SYS_JobAgentLogDaten WHERE to_tsvector('simple', "
                   "coalesce(Herkunft, '') || ' ' || coalesce(AuftragKennung, '') || ' ' || "
                   "coalesce(Kategorie, '') || ' ' || coalesce(Name, '') || ' ' || "
                   "coalesce(Text, '') || ' ' || coalesce(Zusatz, '')) @@ "
-                  "to_tsquery('simple', '''März'':* & ''42''')))  "));
+                  "to_tsquery('simple', '''März'':* & ''42'''))))  "));
 }
 
 TEST(SqlFullText, OnlyTheLogsContainsInItsFormIsTouched) {
