@@ -10,13 +10,13 @@
 void cLogDaten::moFrmLogDaten_evSuchen() {
     ErrorExit ex(QStringLiteral("moFrmLogDaten_evSuchen"), kKlasse);
     try {
-        if (mbSucheEndet || !moFrmLogDaten) {
+        if (!moFrmLogDaten) {
             return;
         }
         frmLogDaten& frm = *moFrmLogDaten;
         const std::optional<QDate> dtVon = logsuche::tag(frm.txtSuchenVon().Text());
         const std::optional<QDate> dtBis = logsuche::tag(frm.txtSuchenBis().Text());
-        // A day half typed searches nothing yet: the list stays as it is until it is one.
+        // A day that is none searches nothing: the list stays as it is and the line says why.
         if (!dtVon || !dtBis) {
             frm.lblSuchTreffer().setCaption(logsuche::kTagUngueltig);
             return;
@@ -56,14 +56,11 @@ void cLogDaten::moFrmLogDaten_evSucheBeenden() {
             frm.txtSuchenBis().Text().isEmpty()) {
             return;
         }
-        mbSucheEndet = true;
         frm.txtSuchen().setText(QString());
         frm.txtSuchenVon().setText(QString());
         frm.txtSuchenBis().setText(QString());
-        mbSucheEndet = false;
         moFrmLogDaten_evSuchen();
     } catch (...) {
-        mbSucheEndet = false;
         ex.fail();
     }
 }

@@ -88,10 +88,8 @@ class cLogDaten {
     long mlLoeschArt = 0;
     long mlLogArt = 0;
     long mlAktZeile = 0;
-    // The job of the open browser, for the search's statement; true while the search's boxes
-    // are emptied, so that their changes do not search.
+    // The job of the open browser, for the search's statement.
     long mlLogJobId = 0;
-    bool mbSucheEndet = false;
     QString msJobNameLog;
     long mlLogKontext = 0;
     QString msLogKontext;

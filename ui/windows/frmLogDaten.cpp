@@ -23,7 +23,8 @@ WindowDecl makeDeclaration() {
     browser.kind = ControlKind::Browser;
     d.controls << browser
                << control("txtSuchen", -1, ControlKind::TextBox, "Suchen",
-                          "Einträge mit allen Wörtern zeigen (Strg+F, Esc beendet)")
+                          "Einträge mit allen Wörtern zeigen: Eingabetaste sucht, Esc beendet, "
+                          "Strg+F springt hierher")
                << control("txtSuchenVon", -1, ControlKind::TextBox, "von", "TT.MM.JJJJ")
                << control("txtSuchenBis", -1, ControlKind::TextBox, "bis", "TT.MM.JJJJ")
                << control("lblSuchTreffer", -1, ControlKind::Label);
@@ -44,24 +45,23 @@ frmLogDaten::frmLogDaten(std::unique_ptr<IWindow> w) : WindowContract(std::move(
     listen(std::move(events));
 }
 
-void frmLogDaten::onKeyDown(int keyCode, int shift) {
+void frmLogDaten::onKeyDown(int keyCode, int shift, bool searchBox) {
     if (keyCode == kTasteF && shift == kStrg) {
         txtSuchen().SetFocus();
     } else if (keyCode == KeyCode::Escape && shift == 0) {
         fire(evSucheBeenden);
+    } else if (keyCode == KeyCode::Return && shift == 0 && searchBox) {
+        fire(evSuchen);
     }
 }
 
 void frmLogDaten::onControl(const ControlEvent& e) {
-    // Ctrl+F and Escape in the browser or the search's boxes.
-    if (e.type == EventType::KeyDown && (is(e, "ctlLogDaten") || is(e, "txtSuchen") ||
-                                         is(e, "txtSuchenVon") || is(e, "txtSuchenBis"))) {
-        onKeyDown(e.keyCode, e.shift);
-    }
-    if (e.type == EventType::Change &&
-        (is(e, "txtSuchen") || is(e, "txtSuchenVon") || is(e, "txtSuchenBis"))) {
-        fire(evSuchen);
-        return;
+    // Ctrl+F and Escape in the browser or the search's boxes, Enter in the boxes.
+    if (e.type == EventType::KeyDown) {
+        const bool searchBox = is(e, "txtSuchen") || is(e, "txtSuchenVon") || is(e, "txtSuchenBis");
+        if (searchBox || is(e, "ctlLogDaten")) {
+            onKeyDown(e.keyCode, e.shift, searchBox);
+        }
     }
     if (!is(e, "ctlLogDaten")) {
         return;

@@ -8,7 +8,8 @@
 // browser's tool "Details" ask for the details of the current row; the close box and the
 // window's end both report that the window goes. Above the browser stands the search: the
 // words ("Suchen", Ctrl+F in the browser or the boxes), a period by days and the count of
-// hits; a change of any of them asks for the search, Escape for its end.
+// hits; Enter in any of the boxes asks for the search, Escape for its end. The search waits
+// for Enter rather than following each key, since a word's first letters can match millions.
 class frmLogDaten : public WindowContract {
   public:
     static const WindowDecl& declaration();
@@ -23,7 +24,7 @@ class frmLogDaten : public WindowContract {
     std::function<void()> evShowDetail;
     // Raised on the close request and again when the window unloads.
     std::function<void()> evSchliessen;
-    // The words or the period changed.
+    // Enter in the words or a day of the period.
     std::function<void()> evSuchen;
     // Escape: the search ends, the whole log shows again.
     std::function<void()> evSucheBeenden;
@@ -33,5 +34,5 @@ class frmLogDaten : public WindowContract {
 
   private:
     void onControl(const ControlEvent& e) override;
-    void onKeyDown(int keyCode, int shift);
+    void onKeyDown(int keyCode, int shift, bool searchBox);
 };
