@@ -22,3 +22,8 @@ CREATE TRIGGER trAutoJobJob_Zeilenversion BEFORE UPDATE ON tAutoJobJob
 DROP TRIGGER IF EXISTS trAutoJobSchedule_Zeilenversion ON tAutoJobSchedule;
 CREATE TRIGGER trAutoJobSchedule_Zeilenversion BEFORE UPDATE ON tAutoJobSchedule
     FOR EACH ROW EXECUTE FUNCTION zeilenversion_weiterzaehlen();
+
+-- The words of the log entries' texts, for the log data viewer's search.
+CREATE INDEX IF NOT EXISTS ixJobAgentLogDaten_Suche ON SYS_JobAgentLogDaten USING GIN (to_tsvector('simple',
+    coalesce(Herkunft, '') || ' ' || coalesce(AuftragKennung, '') || ' ' || coalesce(Kategorie, '')
+    || ' ' || coalesce(Name, '') || ' ' || coalesce(Text, '') || ' ' || coalesce(Zusatz, '')));

@@ -12,6 +12,7 @@
 #include "suite/SqlDates.h"
 #include "suite/SqlDialect.h"
 #include "suite/SqlErrors.h"
+#include "suite/SqlFullText.h"
 #include "suite/SqlTokens.h"
 
 namespace {
@@ -157,7 +158,8 @@ bool PostgresBackend::mayRepeat(const QString& sql, const QSqlError& error) cons
 }
 
 QString PostgresBackend::translate(const QString& serverSql, const QDateTime& now) const {
-    return SqlDialect::translate(serverSql, now, SqlDialect::Target::Postgres);
+    return SqlDialect::translate(SqlFullText::rewrite(serverSql, SqlDialect::Target::Postgres), now,
+                                 SqlDialect::Target::Postgres);
 }
 
 std::optional<SqlTable> PostgresBackend::table(const QSqlDatabase& db, const QString& name,
@@ -346,15 +348,16 @@ void PostgresBackend::applySchema(const QSqlDatabase& db, const QString& script)
 }
 
 void PostgresBackend::upgradeSchema(const QSqlDatabase& db) const {
-    // The newest column of the upgrade tells whether it ran; the check comes first without the
+    // The objects the upgrade adds tell whether it ran; the check comes first without the
     // lock, so that a current database costs one query at the start.
     const auto behind = [&] {
-        const QString newest = QStringLiteral(
-            "SELECT count(*) FROM information_schema.columns WHERE table_schema = "
+        const QString added = QStringLiteral(
+            "SELECT (SELECT count(*) FROM information_schema.columns WHERE table_schema = "
             "current_schema() AND table_name = 'tautojobschedule' AND column_name = "
-            "'zeilenversion'");
-        QSqlQuery query = runSql(*this, db, newest, {}, newest);
-        return query.next() && query.value(0).toLongLong() == 0;
+            "'zeilenversion') + (SELECT count(*) FROM pg_indexes WHERE schemaname = "
+            "current_schema() AND indexname = 'ixjobagentlogdaten_suche')");
+        QSqlQuery query = runSql(*this, db, added, {}, added);
+        return query.next() && query.value(0).toLongLong() < 2;
     };
     if (!behind()) {
         return;
