@@ -181,39 +181,79 @@ void cAusfuehrungsplan::planFuellen() {
     LocalClock clock(QTimeZone::systemTimeZone());
     const qint64 von = clock.at((mdVon.toJulianDay() - 2440588) * LocalClock::kDay).utc;
     const qint64 bis = clock.at((mdBis.toJulianDay() - 2440588) * LocalClock::kDay).utc;
-    QList<Start> starts;
     QList<int> ohne;
     auto gezeigt = [&](int i) {
         const Zeitplan& z = maZeitplaene[i];
         return (lMandant < 0 || z.sMandant == sMandant) && (lArt < 0 || z.lDatenArt == lArt);
     };
-    // Every start, so that one of a job type filtered out still marks an overlap.
+    QList<int> berechenbar;
     for (int i = 0; i < maZeitplaene.size(); ++i) {
-        const Zeitplan& z = maZeitplaene[i];
-        if (!ruleFault(z.regel).isEmpty()) {
-            if (gezeigt(i)) {
-                ohne << i;
-            }
-            continue;
+        if (ruleFault(maZeitplaene[i].regel).isEmpty()) {
+            berechenbar << i;
+        } else if (gezeigt(i)) {
+            ohne << i;
         }
-        RunForecast::eachRun(z.regel, von, bis, clock, [&](const ForecastRun& run) {
-            starts.append({run.utc, run, i});
-            return true;
-        });
     }
-    std::stable_sort(starts.begin(), starts.end(),
-                     [](const Start& a, const Start& b) { return a.utc < b.utc; });
 
-    // Starts of one client close to another's: both are marked.
-    QList<bool> nah(starts.size(), false);
-    QHash<QString, int> letzter;
-    for (int k = 0; k < starts.size(); ++k) {
-        const QString& m = maZeitplaene[starts[k].zeitplan].sMandant;
-        auto it = letzter.find(m);
-        if (it != letzter.end() && starts[k].utc - starts[*it].utc <= kNaehe) {
-            nah[k] = nah[*it] = true;
+    // The period a day at a time, so that no more than a day's starts and the rows shown are
+    // held however long the period and however many the schedules. Every start counts for the
+    // overlaps, so that one of a job type filtered out still marks one.
+    struct Zeile {
+        ForecastRun run;
+        int zeitplan;
+        bool nah = false;
+    };
+    struct Letzter {
+        qint64 utc;
+        int zeile;  // its row, -1 when not shown
+    };
+    QList<Zeile> zeilen;
+    qint64 iStarts = 0;
+    QHash<QString, Letzter> letzter;
+    for (qint64 tag = von; tag < bis; tag += LocalClock::kDay) {
+        if (zeilen.size() >= kHoechstens && tag > zeilen.constLast().run.utc + kNaehe) {
+            // No later start marks a row shown: the rest is only counted.
+            for (const int i : std::as_const(berechenbar)) {
+                if (gezeigt(i)) {
+                    RunForecast::eachRun(maZeitplaene[i].regel, tag, bis, clock,
+                                         [&](const ForecastRun&) { return ++iStarts > 0; });
+                }
+            }
+            break;
         }
-        letzter[m] = k;
+        const qint64 tagBis = std::min(tag + LocalClock::kDay, bis);
+        QList<Start> starts;
+        for (const int i : std::as_const(berechenbar)) {
+            RunForecast::eachRun(maZeitplaene[i].regel, tag, tagBis, clock,
+                                 [&](const ForecastRun& run) {
+                                     starts.append({run.utc, run, i});
+                                     return true;
+                                 });
+        }
+        std::stable_sort(starts.begin(), starts.end(),
+                         [](const Start& a, const Start& b) { return a.utc < b.utc; });
+        for (const Start& start : std::as_const(starts)) {
+            int zeile = -1;
+            if (gezeigt(start.zeitplan)) {
+                ++iStarts;
+                if (zeilen.size() < kHoechstens) {
+                    zeilen.append({start.run, start.zeitplan});
+                    zeile = static_cast<int>(zeilen.size()) - 1;
+                }
+            }
+            // Starts of one client close to another's: both are marked.
+            const QString& m = maZeitplaene[start.zeitplan].sMandant;
+            const auto it = letzter.constFind(m);
+            if (it != letzter.constEnd() && start.utc - it->utc <= kNaehe) {
+                if (zeile >= 0) {
+                    zeilen[zeile].nah = true;
+                }
+                if (it->zeile >= 0) {
+                    zeilen[it->zeile].nah = true;
+                }
+            }
+            letzter.insert(m, {start.utc, zeile});
+        }
     }
 
     IGrid& grd = f.grdPlan();
@@ -233,32 +273,24 @@ void cAusfuehrungsplan::planFuellen() {
         grd.AddItem(QStringLiteral("Keine Ausführung\t%1\t%2\t%3\t%4")
                         .arg(z.sAuftrag, z.sZeitplan, z.sMandant, ruleFault(z.regel)));
     }
-    QList<int> zeilen;
-    for (int k = 0; k < starts.size(); ++k) {
-        if (gezeigt(starts[k].zeitplan)) {
-            zeilen << k;
-        }
-    }
-    const int iZeigen = std::min<int>(static_cast<int>(zeilen.size()), kHoechstens);
-    for (int n = 0; n < iZeigen; ++n) {
-        const int k = zeilen[n];
-        const Zeitplan& z = maZeitplaene[starts[k].zeitplan];
+    for (const Zeile& zeile : std::as_const(zeilen)) {
+        const Zeitplan& z = maZeitplaene[zeile.zeitplan];
         QStringList hinweis;
-        if (nah[k]) {
+        if (zeile.nah) {
             hinweis << QStringLiteral("Überschneidung");
         }
-        const QString sUmstellung = RunForecast::changeText(starts[k].run);
+        const QString sUmstellung = RunForecast::changeText(zeile.run);
         if (!sUmstellung.isEmpty()) {
             hinweis << sUmstellung;
         }
-        grd.AddItem(RunForecast::runText(starts[k].run) + u'\t' + z.sAuftrag + u'\t' + z.sZeitplan +
+        grd.AddItem(RunForecast::runText(zeile.run) + u'\t' + z.sAuftrag + u'\t' + z.sZeitplan +
                     u'\t' + z.sMandant + u'\t' + hinweis.join(QStringLiteral("; ")));
     }
 
-    QString sSumme = zeilen.size() == 1 ? QStringLiteral("1 Start")
-                                        : QStringLiteral("%1 Starts").arg(zeilen.size());
-    if (zeilen.size() > iZeigen) {
-        sSumme += QStringLiteral(", gezeigt die ersten %1").arg(iZeigen);
+    QString sSumme =
+        iStarts == 1 ? QStringLiteral("1 Start") : QStringLiteral("%1 Starts").arg(iStarts);
+    if (iStarts > zeilen.size()) {
+        sSumme += QStringLiteral(", gezeigt die ersten %1").arg(zeilen.size());
     }
     sSumme += QStringLiteral(". Nicht aktiv und nicht berücksichtigt: ") +
               anzahl(miAuftraegeInaktiv, "Auftrag", "Aufträge") + QStringLiteral(", ") +
