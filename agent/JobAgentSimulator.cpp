@@ -3,10 +3,12 @@
 #include <QSqlDatabase>
 #include <QSqlError>
 #include <QSqlQuery>
+#include <QTimeZone>
 #include <array>
 #include <queue>
 
 #include "agent/AgentWriter.h"
+#include "forecast/RunForecast.h"
 #include "suite/Database.h"
 #include "suite/SqlErrors.h"
 
@@ -52,26 +54,18 @@ QString inDirectory(const QString& dir, const QString& name) {
     return dir + (dir.contains(u'\\') || !dir.contains(u'/') ? u'\\' : u'/') + name;
 }
 
-// How often a schedule runs, in seconds; 0 for a single run.
-qint64 intervalOf(int type, int interval, int recurrence, int subDay, int subDayInterval) {
-    if (subDay == 4 && subDayInterval > 0) {
-        return subDayInterval * 60LL;
+// Julian day of 1970-01-01: a wall clock reading of the forecast in the seconds used here.
+constexpr qint64 kEpochSeconds = 2440588LL * 86400;
+
+// A date column as the system reads it: NULL is the zero date.
+QDate dateOf(const QVariant& v) {
+    if (v.isNull()) {
+        return QDate(1899, 12, 30);
     }
-    if (subDay == 8 && subDayInterval > 0) {
-        return subDayInterval * 3600LL;
+    if (v.typeId() == QMetaType::QDateTime || v.typeId() == QMetaType::QDate) {
+        return v.toDate();
     }
-    switch (type) {
-        case 1:
-            return 0;
-        case 4:
-            return std::max(1, interval) * 86400LL;
-        case 8: {
-            const int days = std::max(1, __builtin_popcount(static_cast<unsigned>(interval & 127)));
-            return std::max(1, recurrence) * 7 * 86400LL / days;
-        }
-        default:
-            return std::max(1, recurrence) * 30 * 86400LL;
-    }
+    return QDate::fromString(v.toString().left(10), Qt::ISODate);
 }
 
 }  // namespace
@@ -89,7 +83,9 @@ int JobAgentSimulator::loadSchedules() {
     QString sql = QStringLiteral(
         "SELECT s.idAutoJobSchedule, j.idAutoJob, j.DatenArt, j.Name, j.MTAPath, j.BackupPath, "
         "j.ErrorMTA, COALESCE(m.ManNr, 0), s.FreqencyType, s.FrequencyInterval, "
-        "s.FrequencyRecurrenceFactor, s.FrequencySubDay, s.FrequencySubDayinterval "
+        "s.FrequencyRecurrenceFactor, s.FrequencySubDay, s.FrequencySubDayinterval, "
+        "s.FrequencyRelativeInterval, s.ActiveStartTimeOfDay, s.ActiveEndTimeOfDay, "
+        "s.ActiveStartDate, s.ActiveEndDate, j.Aktiviert "
         "FROM tAutoJobSchedule s JOIN tAutoJobJob j ON j.idAutoJob = s.idAutoJob "
         "LEFT JOIN tMandant m ON m.ManId = j.Ps_Id_Mandant "
         "WHERE s.Aktiviert <> 0");
@@ -111,9 +107,17 @@ int JobAgentSimulator::loadSchedules() {
         s.backupPath = query.value(5).toString();
         s.errorMta = query.value(6).toString();
         s.mandant = query.value(7).toLongLong();
-        s.intervalSecs =
-            intervalOf(query.value(8).toInt(), query.value(9).toInt(), query.value(10).toInt(),
-                       query.value(11).toInt(), query.value(12).toInt());
+        s.rule.lFreqencyType = query.value(8).toInt();
+        s.rule.lFrequencyInterval = query.value(9).toInt();
+        s.rule.lFrequencyRecurrenceFactor = query.value(10).toInt();
+        s.rule.lFrequencySubDay = query.value(11).toInt();
+        s.rule.lFrequencySubDayinterval = query.value(12).toInt();
+        s.rule.lFrequencyRelativeInterval = query.value(13).toInt();
+        s.rule.lActiveStartTimeOfDay = query.value(14).toInt();
+        s.rule.lActiveEndTimeOfDay = query.value(15).toInt();
+        s.rule.dActiveStartDate = dateOf(query.value(16));
+        s.rule.dActiveEndDate = dateOf(query.value(17));
+        s.jobActive = query.value(18).toInt() != 0;
         schedules_.append(s);
     }
     return static_cast<int>(schedules_.size());
@@ -234,7 +238,8 @@ AgentCounts JobAgentSimulator::fillYears() {
         qint64 at;
         qsizetype schedule;
         qint64 left;  // runs still to write, -1 until the period ends
-        qint64 step;  // seconds to the next run; 0 spreads `count` runs evenly over the period
+        qint64 step;  // seconds to the next run; 0 spreads `count` runs evenly over the period,
+                      // -1 takes the next start of the forecast
         qint64 index = 0;
         qint64 count = 0;
         qint64 offset = 0;
@@ -249,6 +254,28 @@ AgentCounts JobAgentSimulator::fillYears() {
     for (const Schedule& s : schedules_) {
         ++schedulesOfJob[s.idJob];
     }
+    // The forecast's starts of each schedule, a month at a time.
+    LocalClock clock(QTimeZone::systemTimeZone());
+    const qint64 endUtc = database_->clock().now().toSecsSinceEpoch() + 1;
+    std::vector<QList<ForecastRun>> planned(static_cast<size_t>(schedules_.size()));
+    std::vector<qint64> plannedTo(
+        planned.size(),
+        database_->clock().now().addYears(-std::max(1, options_.years)).toSecsSinceEpoch());
+    auto nextPlanned = [&](qsizetype i, Next& n) {
+        QList<ForecastRun>& runs = planned[static_cast<size_t>(i)];
+        qint64& to = plannedTo[static_cast<size_t>(i)];
+        while (n.index >= runs.size() && to < endUtc) {
+            const qint64 from = to;
+            to = std::min(endUtc, from + 31 * 86400LL);
+            runs = RunForecast::runs(schedules_[i].rule, from, to, clock);
+            n.index = 0;
+        }
+        if (n.index >= runs.size()) {
+            return false;
+        }
+        n.at = runs[n.index++].wall + kEpochSeconds;
+        return true;
+    };
     QMap<long, int> seen;
     for (qsizetype i = 0; i < schedules_.size(); ++i) {
         const Schedule& s = schedules_[i];
@@ -259,11 +286,11 @@ AgentCounts JobAgentSimulator::fillYears() {
             if (count > 0) {
                 queue.push(Next{spread(0, count, k), i, count, 0, 0, count, k});
             }
-        } else if (s.intervalSecs == 0) {
-            queue.push(Next{start + static_cast<qint64>(rng_() % span), i, 1, 1});
-        } else {
-            queue.push(
-                Next{start + static_cast<qint64>(rng_() % s.intervalSecs), i, -1, s.intervalSecs});
+        } else if (s.jobActive) {
+            Next n{0, i, -1, -1};
+            if (nextPlanned(i, n)) {
+                queue.push(n);
+            }
         }
     }
 
@@ -288,7 +315,11 @@ AgentCounts JobAgentSimulator::fillYears() {
                 writer_->begin();
                 inBatch = 0;
             }
-            if (n.left != 1) {
+            if (n.step < 0) {
+                if (nextPlanned(n.schedule, n)) {
+                    queue.push(n);
+                }
+            } else if (n.left != 1) {
                 n.left = n.left > 0 ? n.left - 1 : n.left;
                 n.at = n.step > 0 ? n.at + n.step : spread(++n.index, n.count, n.offset);
                 queue.push(n);
@@ -323,6 +354,50 @@ AgentCounts JobAgentSimulator::fillYears() {
         throw;
     }
     return counts_;
+}
+
+qint64 JobAgentSimulator::runDue() {
+    const QDateTime now = database_->clock().now();
+    const qint64 nowUtc = now.toSecsSinceEpoch();
+    if (dueFromUtc_ < 0) {
+        dueFromUtc_ = nowUtc;  // what was due before the agent started is not made up
+    }
+    if (nowUtc <= dueFromUtc_) {
+        return 0;
+    }
+    LocalClock clock(QTimeZone::systemTimeZone());
+    struct Due {
+        qint64 wall;
+        qsizetype schedule;
+    };
+    QList<Due> due;
+    for (qsizetype i = 0; i < schedules_.size(); ++i) {
+        if (!schedules_[i].jobActive) {
+            continue;
+        }
+        // Starts after the last look, up to and including now.
+        for (const ForecastRun& run :
+             RunForecast::runs(schedules_[i].rule, dueFromUtc_ + 1, nowUtc + 1, clock)) {
+            due.append({run.wall + kEpochSeconds, i});
+        }
+    }
+    std::stable_sort(due.begin(), due.end(),
+                     [](const Due& a, const Due& b) { return a.wall < b.wall; });
+    const AgentCounts before = counts_;
+    try {
+        writer_->begin();
+        for (const Due& d : due) {
+            writeRun(schedules_[d.schedule], fromSeconds(d.wall));
+        }
+        writer_->commit();
+    } catch (...) {
+        // Nothing of these runs stays; the next call makes them again.
+        writer_->rollback();
+        counts_ = before;
+        throw;
+    }
+    dueFromUtc_ = nowUtc;
+    return due.size();
 }
 
 bool JobAgentSimulator::runOnce() {

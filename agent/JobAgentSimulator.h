@@ -6,6 +6,8 @@
 #include <memory>
 #include <random>
 
+#include "forecast/ScheduleRule.h"
+
 class AgentWriter;
 class Database;
 
@@ -14,8 +16,10 @@ class Database;
 // and never writes to them. Works on an SQLite file and on a PostgreSQL server alike (the
 // writing is the AgentWriter's).
 struct AgentOptions {
-    int years = 0;          // bulk: the period that ends now
-    qint64 runsPerJob = 0;  // bulk: runs of each job over the period; 0 as its schedules say
+    int years = 0;  // bulk: the period that ends now
+    // bulk: runs of each job over the period; 0 as the schedules of the active jobs say, at
+    // the moments of the forecast of runs in the machine's time zone
+    qint64 runsPerJob = 0;
     qint64 logEntries = 0;  // bulk: log entries over the period; 0 a few per run
     long jobId = 0;         // only this job; 0 all jobs with a schedule
     quint32 seed = 1;       // the same seed writes the same rows
@@ -43,6 +47,10 @@ class JobAgentSimulator {
     // One run of the next schedule at the moment now, with its log entries, in one short
     // transaction. Gives false when there is no schedule to run.
     bool runOnce();
+    // The runs whose starts the forecast gives after the last call (the first call: after
+    // the moment before it) up to and including now, each schedule of an active job at its
+    // own moment, in one short transaction. Gives their number.
+    qint64 runDue();
 
     const AgentCounts& counts() const { return counts_; }
 
@@ -56,7 +64,8 @@ class JobAgentSimulator {
         QString backupPath;
         QString errorMta;
         long mandant = 0;
-        qint64 intervalSecs = 86400;
+        bool jobActive = true;
+        ScheduleRule rule;  // when the schedule starts the job (forecast/RunForecast.h)
     };
 
     void writeRun(const Schedule& s, const QDateTime& at);
@@ -71,7 +80,8 @@ class JobAgentSimulator {
     std::unique_ptr<AgentWriter> writer_;
     QList<Schedule> schedules_;
     qsizetype next_ = 0;
-    QDateTime runAt_;  // the run the job entries being written belong to
+    qint64 dueFromUtc_ = -1;  // runDue: the starts after this moment are still to be made
+    QDateTime runAt_;         // the run the job entries being written belong to
     std::mt19937 rng_;
     AgentCounts counts_;
 };

@@ -50,8 +50,9 @@ int main(int argc, char* argv[]) {
                                         QStringLiteral("Schreibt laufend, bis er beendet wird."));
     const QCommandLineOption intervalOption(
         QStringLiteral("interval-ms"),
-        QStringLiteral("Live: Abstand der Ausführungen (Vorgabe 3000)."), QStringLiteral("MS"),
-        QStringLiteral("3000"));
+        QStringLiteral("Live: statt nach den Zeitplänen eine Ausführung in diesem Abstand, "
+                       "reihum (Last für Tests)."),
+        QStringLiteral("MS"));
     const QCommandLineOption countOption(QStringLiteral("count"),
                                          QStringLiteral("Live: endet nach so vielen Ausführungen."),
                                          QStringLiteral("N"));
@@ -125,16 +126,25 @@ int main(int argc, char* argv[]) {
 
         std::signal(SIGINT, requestStop);
         std::signal(SIGTERM, requestStop);
-        const int interval = std::max(1, parser.value(intervalOption).toInt());
+        // As the service does, the runs come at the schedules' starts (the forecast's); with
+        // --interval-ms one comes after the other at that pace instead, to load a database.
+        const bool paced = parser.isSet(intervalOption);
+        const int interval = paced ? std::max(1, parser.value(intervalOption).toInt()) : 1000;
         const qint64 limit =
             parser.isSet(countOption) ? parser.value(countOption).toLongLong() : -1;
-        print(QStringLiteral("Live: %1 Zeitpläne, eine Ausführung alle %2 ms")
-                  .arg(schedules)
-                  .arg(interval));
+        print(paced ? QStringLiteral("Live: %1 Zeitpläne, eine Ausführung alle %2 ms")
+                          .arg(schedules)
+                          .arg(interval)
+                    : QStringLiteral("Live: %1 Zeitpläne, Ausführungen zu ihren Startzeiten")
+                          .arg(schedules));
         while (!stopRequested && (limit < 0 || agent.counts().runs < limit)) {
             try {
-                agent.runOnce();
-                print(totals(agent.counts()));
+                if (paced) {
+                    agent.runOnce();
+                    print(totals(agent.counts()));
+                } else if (agent.runDue() > 0) {
+                    print(totals(agent.counts()));
+                }
             } catch (const RaisedError& e) {
                 print(QStringLiteral("Nicht geschrieben: %1").arg(e.err().Description), stderr);
             }

@@ -243,6 +243,14 @@ class cAdminJob {
     // The viewer of the running command; empty between commands.
     std::shared_ptr<cLogDaten> moLogDaten;
 
+    // ---- Forecast of runs (forecast/AdminJobForecastList.cpp) ---------------------------
+
+    // Fills "Nächste Ausführungen" of the schedule dialog and the recurrence dialog, of
+    // those that are open, from what stands in them.
+    void mNaechsteAusfuehrungenZeigen();
+    // Opens "Ausführungsplan" for all jobs (0) or for one; a job not saved yet has none.
+    void mAusfuehrungsplanZeigen(long lJobId);
+
     // ---- Schedules (schedule/AdminJobSchedule.cpp, schedule/AdminJobScheduleSentence.cpp) --
 
     friend class ScheduleTestAccess;

@@ -15,6 +15,18 @@ namespace {
 constexpr long long kStart = 1609459200;
 constexpr long long kSpan = 1826LL * 24 * 60 * 60;
 
+// The first column of every row of the statement, as text.
+QStringList firstColumn(RawSqlite& db, const char* sql) {
+    QStringList texts;
+    sqlite3_stmt* stmt = nullptr;
+    sqlite3_prepare_v2(db.handle(), sql, -1, &stmt, nullptr);
+    while (sqlite3_step(stmt) == SQLITE_ROW) {
+        texts << QString::fromUtf8(reinterpret_cast<const char*>(sqlite3_column_text(stmt, 0)));
+    }
+    sqlite3_finalize(stmt);
+    return texts;
+}
+
 }  // namespace
 
 void fill(RawSqlite& db, long long from, long long to, long long total) {
@@ -53,7 +65,8 @@ SELECT i,
            WHEN 4 THEN printf('Datei \\Server\Import\Mandant%04d\Buchungen_%03d.txt gesichert',
                               i % 400, i % 365)
            ELSE printf('Belegart %d: %d Belege verschlagwortet', 1 + i % 40, i % 120) END,
-       CASE WHEN i % 9 = 0 THEN printf('Zeile %d: Konto %d ist im Wirtschaftsjahr nicht angelegt.',
+       CASE WHEN i % 1000 = 1 THEN 'Sammelrechnung geprüft und übergeben.'
+            WHEN i % 9 = 0 THEN printf('Zeile %d: Konto %d ist im Wirtschaftsjahr nicht angelegt.',
                                        i % 311, 1000 + i % 8000)
             ELSE NULL END
   FROM e LEFT JOIN tAutoJobJob j ON j.idAutoJob = e.job
@@ -93,36 +106,25 @@ void create(const QString& path, long long total) {
                    .arg(kArten[j % 9]));
     }
     // The indexes are built once after the entries, which is far quicker than keeping them.
-    QStringList indexes;
-    {
-        sqlite3_stmt* stmt = nullptr;
-        sqlite3_prepare_v2(db.handle(),
-                           "SELECT sql FROM sqlite_master WHERE type = 'index' AND "
-                           "tbl_name = 'SYS_JobAgentLogDaten' AND sql IS NOT NULL",
-                           -1, &stmt, nullptr);
-        while (sqlite3_step(stmt) == SQLITE_ROW) {
-            indexes << QString::fromUtf8(
-                reinterpret_cast<const char*>(sqlite3_column_text(stmt, 0)));
-        }
-        sqlite3_finalize(stmt);
-    }
+    const QStringList indexes =
+        firstColumn(db,
+                    "SELECT sql FROM sqlite_master WHERE type = 'index' AND "
+                    "tbl_name = 'SYS_JobAgentLogDaten' AND sql IS NOT NULL");
     // Dropping an index drops its statistics: they are written back with the index.
-    QStringList statistics;
-    {
-        sqlite3_stmt* stmt = nullptr;
-        sqlite3_prepare_v2(db.handle(),
-                           "SELECT printf('INSERT INTO sqlite_stat1 VALUES (%Q, %Q, %Q)', tbl, "
-                           "idx, stat) FROM sqlite_stat1",
-                           -1, &stmt, nullptr);
-        while (sqlite3_step(stmt) == SQLITE_ROW) {
-            statistics << QString::fromUtf8(
-                reinterpret_cast<const char*>(sqlite3_column_text(stmt, 0)));
-        }
-        sqlite3_finalize(stmt);
-    }
+    const QStringList statistics =
+        firstColumn(db,
+                    "SELECT printf('INSERT INTO sqlite_stat1 VALUES (%Q, %Q, %Q)', tbl, "
+                    "idx, stat) FROM sqlite_stat1");
+    // The full-text index, too, is built once from the entries rather than kept entry by entry.
+    const QStringList triggers =
+        firstColumn(db,
+                    "SELECT sql FROM sqlite_master WHERE type = 'trigger' AND "
+                    "tbl_name = 'SYS_JobAgentLogDaten'");
     for (const QString& index : indexes) {
-        const QString name = index.section(u' ', 2, 2);
-        db.run(QStringLiteral("DROP INDEX ") + name);
+        db.run(QStringLiteral("DROP INDEX ") + index.section(u' ', 2, 2));
+    }
+    for (const QString& trigger : triggers) {
+        db.run(QStringLiteral("DROP TRIGGER ") + trigger.section(u' ', 2, 2));
     }
     const long long step = 1000000;
     for (long long from = 1; from <= total; from += step) {
@@ -130,6 +132,11 @@ void create(const QString& path, long long total) {
     }
     for (const QString& index : indexes) {
         db.run(index);
+    }
+    db.run(QStringLiteral(
+        "INSERT INTO SYS_JobAgentLogDaten_Suche (SYS_JobAgentLogDaten_Suche) VALUES ('rebuild')"));
+    for (const QString& trigger : triggers) {
+        db.run(trigger);
     }
     db.run(QStringLiteral("DELETE FROM sqlite_stat1"));
     for (const QString& statistic : statistics) {

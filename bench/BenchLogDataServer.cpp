@@ -50,7 +50,8 @@ SELECT i,
            WHEN 4 THEN 'Datei \\Server\Import\Mandant' || lpad((i % 400)::text, 4, '0')
                        || '\Buchungen_' || lpad((i % 365)::text, 3, '0') || '.txt gesichert'
            ELSE 'Belegart ' || 1 + i % 40 || ': ' || i % 120 || ' Belege verschlagwortet' END,
-       CASE WHEN i % 9 = 0 THEN 'Zeile ' || i % 311 || ': Konto ' || 1000 + i % 8000
+       CASE WHEN i % 1000 = 1 THEN 'Sammelrechnung geprüft und übergeben.'
+            WHEN i % 9 = 0 THEN 'Zeile ' || i % 311 || ': Konto ' || 1000 + i % 8000
                                 || ' ist im Wirtschaftsjahr nicht angelegt.'
             ELSE NULL END
   FROM (SELECT i,

@@ -19,9 +19,11 @@
 #include <cstdio>
 #include <functional>
 #include <optional>
+#include <string_view>
 
 #include "bench/BenchLogData.h"
 #include "bench/BenchLogDataServer.h"
+#include "bench/BenchLogSearch.h"
 #include "bench/BenchRawPostgres.h"
 #include "bench/BenchRawSqlite.h"
 #include "bench/scale/ScaleBenchServer.h"
@@ -325,6 +327,20 @@ int measure(const QString& path, const QString& emptyPath, Raw& raw, long long t
         raw.run(view + QStringLiteral(" ORDER BY Id LIMIT %1").arg(kScreen));
     });
     line("first screen (count + rows)", firstOurs, firstRaw, "<= 1.5x");
+
+    BenchLogSearch::measure(
+        raw.name == std::string_view("PostgreSQL"),
+        [&](const QString& statement) {
+            Viewer v(factory, true);
+            v.browser->setAbfrage(statement);
+            v.open();
+        },
+        [&](const QString& sql) { raw.run(sql); },
+        [](int runs, const std::function<void()>& body) { return best(runs, body); }, line,
+        kScreen);
+    if (raw.name == std::string_view("SQLite")) {
+        BenchLogSearch::measureUpkeep(emptyPath, line);
+    }
 
     // Last row: a viewer just opened jumps to the end.
     std::unique_ptr<Viewer> v;

@@ -524,6 +524,11 @@ CREATE INDEX ixJobAgentLogDaten_LogTyp ON SYS_JobAgentLogDaten (LogTyp, DatumUhr
 -- The entries of one type in the order of their ids: the viewer's job log
 -- counts and steps through them without reading the table.
 CREATE INDEX ixJobAgentLogDaten_LogTypId ON SYS_JobAgentLogDaten (LogTyp, Id);
+-- The words of an entry's texts, for the viewer's search: the server keeps the index with
+-- every write. The expression is the one the search's condition names.
+CREATE INDEX ixJobAgentLogDaten_Suche ON SYS_JobAgentLogDaten USING GIN (to_tsvector('simple',
+    coalesce(Herkunft, '') || ' ' || coalesce(AuftragKennung, '') || ' ' || coalesce(Kategorie, '')
+    || ' ' || coalesce(Name, '') || ' ' || coalesce(Text, '') || ' ' || coalesce(Zusatz, '')));
 
 -- What each user made of a list: column order and widths (a JSON list of
 -- {"name", "width"} in the order shown) and the sort, under the list's key and

@@ -232,6 +232,27 @@ CREATE INDEX ixJobAgentLogDaten_LogTyp ON SYS_JobAgentLogDaten (LogTyp, DatumUhr
 -- The entries of one type in the order of their ids: the viewer's job log
 -- counts and steps through them without reading the table.
 CREATE INDEX ixJobAgentLogDaten_LogTypId ON SYS_JobAgentLogDaten (LogTyp, Id);
+-- The words of an entry's texts, for the viewer's search: kept by the database
+-- itself, so that what the agent writes is found at once. The index holds the
+-- words only; the texts stay in the table.
+CREATE VIRTUAL TABLE SYS_JobAgentLogDaten_Suche USING fts5(
+    Herkunft, AuftragKennung, Kategorie, Name, Text, Zusatz,
+    content='SYS_JobAgentLogDaten', content_rowid='Id',
+    tokenize='unicode61 remove_diacritics 0');
+CREATE TRIGGER trJobAgentLogDaten_SucheNeu AFTER INSERT ON SYS_JobAgentLogDaten BEGIN
+    INSERT INTO SYS_JobAgentLogDaten_Suche (rowid, Herkunft, AuftragKennung, Kategorie, Name, Text, Zusatz)
+    VALUES (new.Id, new.Herkunft, new.AuftragKennung, new.Kategorie, new.Name, new.Text, new.Zusatz);
+END;
+CREATE TRIGGER trJobAgentLogDaten_SucheWeg AFTER DELETE ON SYS_JobAgentLogDaten BEGIN
+    INSERT INTO SYS_JobAgentLogDaten_Suche (SYS_JobAgentLogDaten_Suche, rowid, Herkunft, AuftragKennung, Kategorie, Name, Text, Zusatz)
+    VALUES ('delete', old.Id, old.Herkunft, old.AuftragKennung, old.Kategorie, old.Name, old.Text, old.Zusatz);
+END;
+CREATE TRIGGER trJobAgentLogDaten_SucheNeuText AFTER UPDATE OF Herkunft, AuftragKennung, Kategorie, Name, Text, Zusatz ON SYS_JobAgentLogDaten BEGIN
+    INSERT INTO SYS_JobAgentLogDaten_Suche (SYS_JobAgentLogDaten_Suche, rowid, Herkunft, AuftragKennung, Kategorie, Name, Text, Zusatz)
+    VALUES ('delete', old.Id, old.Herkunft, old.AuftragKennung, old.Kategorie, old.Name, old.Text, old.Zusatz);
+    INSERT INTO SYS_JobAgentLogDaten_Suche (rowid, Herkunft, AuftragKennung, Kategorie, Name, Text, Zusatz)
+    VALUES (new.Id, new.Herkunft, new.AuftragKennung, new.Kategorie, new.Name, new.Text, new.Zusatz);
+END;
 
 -- What each user made of a list: column order and widths (a JSON list of
 -- {"name", "width"} in the order shown) and the sort, under the list's key and

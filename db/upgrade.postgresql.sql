@@ -153,3 +153,8 @@ CREATE TRIGGER trAutoJobJob_Journal AFTER INSERT OR UPDATE OR DELETE ON tAutoJob
     FOR EACH ROW EXECUTE FUNCTION auftrag_protokollieren();
 CREATE TRIGGER trAutoJobSchedule_Journal AFTER INSERT OR UPDATE OR DELETE ON tAutoJobSchedule
     FOR EACH ROW EXECUTE FUNCTION auftrag_protokollieren();
+
+-- The words of the log entries' texts, for the log data viewer's search.
+CREATE INDEX IF NOT EXISTS ixJobAgentLogDaten_Suche ON SYS_JobAgentLogDaten USING GIN (to_tsvector('simple',
+    coalesce(Herkunft, '') || ' ' || coalesce(AuftragKennung, '') || ' ' || coalesce(Kategorie, '')
+    || ' ' || coalesce(Name, '') || ' ' || coalesce(Text, '') || ' ' || coalesce(Zusatz, '')));

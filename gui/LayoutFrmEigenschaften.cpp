@@ -201,7 +201,7 @@ class EditorLayout {
         addTo(row, widget("grdZeitplan"), 1);
         auto* buttons = new QVBoxLayout;
         for (int index : {F::Cmd::ZeitplanNeu, F::Cmd::ZeitplanBearbeiten, F::Cmd::ZeitplanLoeschen,
-                          F::Cmd::ZeitplanKopieren}) {
+                          F::Cmd::ZeitplanKopieren, F::Cmd::Ausfuehrungsplan}) {
             addTo(buttons, widget("cmdCommandButton", index));
         }
         buttons->addStretch(1);

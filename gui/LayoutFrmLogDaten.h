@@ -2,5 +2,5 @@
 
 class QtWindow;
 
-// The log data browser: the browser fills the window.
+// The log data browser: the search's row above, the browser fills the rest of the window.
 void layoutFrmLogDaten(QtWindow& window);

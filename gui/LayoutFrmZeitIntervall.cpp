@@ -36,7 +36,13 @@ class RecurrenceLayout {
         column->addWidget(frame(I::Fra::ProTag));
         duration();
         column->addWidget(frame(I::Fra::Dauer));
-        column->addStretch(1);
+        if (QWidget* area = inside(I::Fra::NaechsteAusfuehrungen)) {
+            auto* list = new QVBoxLayout(area);
+            addTo(list, widget("grdNaechsteAusfuehrungen", -1));
+            column->addWidget(frame(I::Fra::NaechsteAusfuehrungen), 1);
+        } else {
+            column->addStretch(1);
+        }
 
         auto* bottom = new QHBoxLayout;
         addTo(bottom, widget("lblLabel", I::Lbl::Auftragsname), 1);

@@ -36,7 +36,18 @@ class ScheduleLayout {
             column->addWidget(frame->widget());
             typeFrame(frame->area(-1));
         }
-        column->addStretch(1);
+        if (QtControlView* list = view("fraNaechsteAusfuehrungen")) {
+            column->addWidget(list->widget(), 1);
+            if (QWidget* area = list->area(-1)) {
+                auto* inner = new QVBoxLayout(area);
+                inner->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+                if (QWidget* grid = widget("grdNaechsteAusfuehrungen")) {
+                    inner->addWidget(grid);
+                }
+            }
+        } else {
+            column->addStretch(1);
+        }
         auto* buttons = new QHBoxLayout;
         buttons->addStretch(1);
         for (int index : {Z::Cmd::Ok, Z::Cmd::Abbrechen}) {

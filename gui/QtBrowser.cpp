@@ -1,5 +1,7 @@
 #include "gui/QtBrowser.h"
 
+#include "gui/QtSearchMarks.h"
+
 #include <QHeaderView>
 #include <QTimer>
 #include <QVBoxLayout>
@@ -99,6 +101,7 @@ QtBrowser::QtBrowser(const ControlDecl& decl, HeadlessWindow& window, QWidget* p
     view_ = new QTableView(box);
     model_ = new BrowserModel(*this, view_);
     view_->setModel(model_);
+    view_->setItemDelegate(new QtSearchMarks([this] { return SuchWoerter(); }, view_));
     view_->setSelectionBehavior(QAbstractItemView::SelectRows);
     view_->setSelectionMode(QAbstractItemView::ExtendedSelection);
     view_->setEditTriggers(QAbstractItemView::NoEditTriggers);
@@ -170,6 +173,7 @@ QtBrowser::~QtBrowser() {
 }
 
 void QtBrowser::refresh() {
+    view_->viewport()->update();  // the marks of a search
     title_->setText(Titel());
     title_->setVisible(!Titel().isEmpty());
     toolBar_->setVisible(Tools().Count() > 0);

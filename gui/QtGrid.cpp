@@ -2,6 +2,7 @@
 
 #include <QHeaderView>
 #include <QStyledItemDelegate>
+#include <memory>
 
 namespace {
 
@@ -119,9 +120,12 @@ void QtGrid::updateCell(int row, int col) {
     }
     const int tableRow = row - heading;
     QTableWidgetItem* item = table_->item(tableRow, col);
+    // A new item is made whole before the table takes it: one change for the table, not one
+    // for each of its properties.
+    std::unique_ptr<QTableWidgetItem> made;
     if (!item) {
-        item = new QTableWidgetItem;
-        table_->setItem(tableRow, col, item);
+        made = std::make_unique<QTableWidgetItem>();
+        item = made.get();
     }
     const bool fixed = row < FixedRows() || col < FixedCols();
     const bool box = !fixed && ColBoolean(col);
@@ -155,6 +159,9 @@ void QtGrid::updateCell(int row, int col) {
                                      : align == QLatin1Char('^') ? Qt::AlignHCenter
                                                                  : Qt::AlignLeft;
     item->setTextAlignment(horizontal | Qt::AlignVCenter);
+    if (made) {
+        table_->setItem(tableRow, col, made.release());
+    }
 }
 
 void QtGrid::refresh() {
@@ -183,6 +190,36 @@ void QtGrid::refresh() {
     } else {
         table_->setCurrentCell(-1, -1);
     }
+}
+
+void QtGrid::showCurrentCell() {
+    const int heading = headingRows();
+    const bool current = Row() >= heading && Col() >= 0;
+    const int tableRow = current ? Row() - heading : -1;
+    const int col = current ? Col() : -1;
+    if (table_->currentRow() != tableRow || table_->currentColumn() != col) {
+        table_->setCurrentCell(tableRow, col, QItemSelectionModel::ClearAndSelect);
+    }
+}
+
+void QtGrid::rowsAppended(int first) {
+    const int heading = headingRows();
+    if (!table_ || first < heading || table_->rowCount() != first - heading ||
+        table_->columnCount() != Cols()) {
+        HeadlessGrid::rowsAppended(first);
+        return;
+    }
+    const QSignalBlocker block(table_);
+    const bool wasUpdating = updating();
+    setUpdating(true);
+    table_->setRowCount(Rows() - heading);
+    for (int r = first; r < Rows(); ++r) {
+        for (int c = 0; c < Cols(); ++c) {
+            updateCell(r, c);
+        }
+    }
+    showCurrentCell();
+    setUpdating(wasUpdating);
 }
 
 void QtGrid::cellChanged(int row, int col) {

@@ -22,9 +22,14 @@ class QtGrid : public QtControl<HeadlessGrid> {
   protected:
     void refresh() override;
     void cellChanged(int row, int col) override;
+    // Added rows touch those rows only, so that a fill takes time in step with its rows.
+    void rowsAppended(int first) override;
+    // Row data is not shown.
+    void rowDataChanged(int /*row*/) override {}
 
   private:
     void updateCell(int row, int col);
+    void showCurrentCell();
     void userCellClicked(int tableRow, int col, bool doubleClick);
 
     QPointer<QTableWidget> table_;

@@ -2,6 +2,7 @@
 
 #include <QHash>
 
+#include "gui/LayoutFrmAusfuehrungsplan.h"
 #include "gui/LayoutFrmEigenschaften.h"
 #include "gui/LayoutFrmLogDaten.h"
 #include "gui/LayoutFrmLogDatenDetails.h"
@@ -18,6 +19,7 @@ QHash<QString, QtLayout>& registered() {
         {QStringLiteral("frmeigenschaften"), &layoutFrmEigenschaften},
         {QStringLiteral("frmzeitintervall"), &layoutFrmZeitIntervall},
         {QStringLiteral("frmzeitplan"), &layoutFrmZeitplan},
+        {QStringLiteral("frmausfuehrungsplan"), &layoutFrmAusfuehrungsplan},
         {QStringLiteral("frmzeitplancopy"), &layoutFrmZeitplanCopy},
         {QStringLiteral("frmlogdaten"), &layoutFrmLogDaten},
         {QStringLiteral("frmlogdatendetails"), &layoutFrmLogDatenDetails},

@@ -60,6 +60,11 @@ void HeadlessBrowser::setModus(long mode) {
     stateChanged();
 }
 
+void HeadlessBrowser::setSuchWoerter(const QStringList& words) {
+    suchWoerter_ = words;
+    stateChanged();
+}
+
 // --- loading ---
 
 void HeadlessBrowser::Load() {

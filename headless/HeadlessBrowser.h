@@ -45,6 +45,8 @@ class HeadlessBrowser : public HeadlessControl, public IBrowser, public ISelecti
     long Modus() const override { return modus_; }
     void setModus(long mode) override;
     void Load() override;
+    QStringList SuchWoerter() const override { return suchWoerter_; }
+    void setSuchWoerter(const QStringList& words) override;
     // Reads the rows anew, keeping sort and selection; the flag is not used.
     void Refresh(bool flag) override;
     // Leaves both as they are.
@@ -136,6 +138,7 @@ class HeadlessBrowser : public HeadlessControl, public IBrowser, public ISelecti
     QString titel_;
     QString schluessel_;
     QString abfrage_;
+    QStringList suchWoerter_;
     long mitarbeiterId_ = 0;
     QString mitarbeiterName_;
     long modus_ = 0;

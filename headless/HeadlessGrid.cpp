@@ -67,18 +67,31 @@ void HeadlessGrid::cellChanged(int, int) {
     stateChanged();
 }
 
+void HeadlessGrid::rowsAppended(int) {
+    stateChanged();
+}
+
+void HeadlessGrid::rowDataChanged(int) {
+    stateChanged();
+}
+
 // --- size ---
 
 void HeadlessGrid::setRows(int rows) {
     if (rows < 0) {
         badValue(QStringLiteral("Rows %1").arg(rows));
     }
+    const int before = Rows();
     rows_.resize(rows, newRow());
     if (fixedRows_ > rows) {
         fixedRows_ = rows;
     }
     normalizeCursor();
-    stateChanged();
+    if (rows > before) {
+        rowsAppended(before);
+    } else {
+        stateChanged();
+    }
 }
 
 void HeadlessGrid::setCols(int cols) {
@@ -146,7 +159,7 @@ void HeadlessGrid::AddItem(const QString& tabSeparated) {
     }
     rows_.push_back(std::move(r));
     normalizeCursor();
-    stateChanged();
+    rowsAppended(Rows() - 1);
 }
 
 void HeadlessGrid::RemoveItem(int row) {
@@ -199,7 +212,7 @@ QVariant HeadlessGrid::RowData(int row) const {
 void HeadlessGrid::setRowData(int row, const QVariant& data) {
     checkRow(row, "RowData");
     rows_[row].data = data;
-    stateChanged();
+    rowDataChanged(row);
 }
 
 QVariant HeadlessGrid::CellData(int row, int col) const {

@@ -21,8 +21,10 @@ struct HeadlessGridCell {
 // added to a grid without a current cell it moves to the first data cell, and it is pulled in
 // when rows or columns go. Setting Row or Col by code raises nothing.
 //
-// For the Qt kit: cellChanged(row, col) follows a change of one cell (its default calls
-// stateChanged()); every other change calls stateChanged().
+// For the Qt kit: cellChanged(row, col) follows a change of one cell, rowsAppended(first) rows
+// added at the end (AddItem, more Rows) and rowDataChanged(row) a change of a row's data (their defaults call
+// stateChanged()); every other change calls stateChanged(). A kit that draws the grid can so
+// fill it row by row without touching the rows before.
 class HeadlessGrid : public HeadlessControl, public IGrid {
   public:
     HeadlessGrid(const ControlDecl& decl, HeadlessWindow& window);
@@ -92,6 +94,8 @@ class HeadlessGrid : public HeadlessControl, public IGrid {
 
   protected:
     virtual void cellChanged(int row, int col);
+    virtual void rowsAppended(int first);
+    virtual void rowDataChanged(int row);
     // The user moves the current cell: LeaveCell with the cell it leaves, when there is one
     // and it differs, then the move.
     void userMoveCell(int row, int col);

@@ -4,6 +4,7 @@
 
 #include "common/Clock.h"
 #include "common/ModuleHelpers.h"
+#include "forecast/cAusfuehrungsplan.h"
 #include "gui/QtBookingLogDisplay.h"
 #include "gui/QtUi.h"
 #include "gui/QtWindowFactory.h"
@@ -29,19 +30,20 @@ QList<ToolDecl> menuTools() {
 
 }  // namespace
 
-Services desktopServices(std::shared_ptr<SuiteConfig> config, std::shared_ptr<Database> db) {
-    auto clock = std::make_shared<SystemClock>();
+Services desktopServices(std::shared_ptr<SuiteConfig> config, std::shared_ptr<Database> db,
+                         std::shared_ptr<IClock> clock) {
     return composeProgramServices(
         {std::move(config), std::move(db), clock, std::make_shared<QtUi>(),
          std::make_shared<QtWindowFactory>(nullptr), std::make_shared<QtBookingLogDisplay>()});
 }
 
-DesktopProgram::DesktopProgram(std::shared_ptr<SuiteConfig> config)
+DesktopProgram::DesktopProgram(std::shared_ptr<SuiteConfig> config, std::shared_ptr<IClock> clock)
     : config_(std::move(config)),
-      db_(openSuiteDatabase(*config_, std::make_shared<SystemClock>())),
+      clock_(clock ? std::move(clock) : std::make_shared<SystemClock>()),
+      db_(openSuiteDatabase(*config_, clock_)),
       window_(std::make_unique<HostMainWindow>(QString(), menuTools())),
       session_(std::make_unique<DesktopSession>(*config_, *window_)) {
-    Services s = desktopServices(config_, db_);
+    Services s = desktopServices(config_, db_, clock_);
     s.newBasisAbruf = [session = session_.get()] { return session->makeBasis(); };
     scope_ = std::make_unique<ScopedServices>(std::move(s));
 
@@ -59,6 +61,7 @@ DesktopProgram::DesktopProgram(std::shared_ptr<SuiteConfig> config)
                                     [session = session_.get()] { session->refresh(); });
     };
     window_->onRefresh = [session = session_.get()] { session->refresh(); };
+    window_->onPlan = [] { cAusfuehrungsplan().zeigen(0); };
 }
 
 DesktopProgram::~DesktopProgram() {
@@ -68,6 +71,7 @@ DesktopProgram::~DesktopProgram() {
     window_->onExport = nullptr;
     window_->onImport = nullptr;
     window_->onRefresh = nullptr;
+    window_->onPlan = nullptr;
     session_.reset();
     window_.reset();
     scope_.reset();

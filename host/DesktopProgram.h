@@ -7,6 +7,7 @@
 #include "suite/SuiteConfig.h"
 
 class DesktopSession;
+class IClock;
 class HostMainWindow;
 
 // The program as users start it: the suite's database, the program's services composed with
@@ -15,8 +16,10 @@ class HostMainWindow;
 class DesktopProgram {
   public:
     // Opens the database the configuration names (a new one gets the schema and the demo
-    // data). Throws RaisedError when it cannot be opened.
-    explicit DesktopProgram(std::shared_ptr<SuiteConfig> config);
+    // data). Throws RaisedError when it cannot be opened. The clock is the system's unless a
+    // measurement fixes the moment.
+    explicit DesktopProgram(std::shared_ptr<SuiteConfig> config,
+                            std::shared_ptr<IClock> clock = nullptr);
     ~DesktopProgram();
     DesktopProgram(const DesktopProgram&) = delete;
     DesktopProgram& operator=(const DesktopProgram&) = delete;
@@ -31,6 +34,7 @@ class DesktopProgram {
 
   private:
     std::shared_ptr<SuiteConfig> config_;
+    std::shared_ptr<IClock> clock_;
     std::shared_ptr<Database> db_;
     std::unique_ptr<HostMainWindow> window_;
     std::unique_ptr<DesktopSession> session_;
@@ -39,4 +43,5 @@ class DesktopProgram {
 
 // The program's services for a database, with the real dialogs and the Qt windows; the host
 // base object is the session's to give.
-Services desktopServices(std::shared_ptr<SuiteConfig> config, std::shared_ptr<Database> db);
+Services desktopServices(std::shared_ptr<SuiteConfig> config, std::shared_ptr<Database> db,
+                         std::shared_ptr<IClock> clock);

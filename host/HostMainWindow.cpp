@@ -58,6 +58,15 @@ HostMainWindow::HostMainWindow(const QString& title, const QList<ToolDecl>& menu
                 onRefresh();
             }
         });
+        QAction* plan = view->addAction(QStringLiteral("Ausführungsplan…"));
+        plan->setObjectName(QStringLiteral("mnuAusfuehrungsplan"));
+        plan->setToolTip(
+            QStringLiteral("Zeigt, wann die aktiven Aufträge nach ihren Zeitplänen starten"));
+        connect(plan, &QAction::triggered, this, [this] {
+            if (onPlan) {
+                onPlan();
+            }
+        });
     }
 
     QMenu* help = menuBar()->addMenu(QStringLiteral("&Hilfe"));

@@ -33,6 +33,8 @@ class HostMainWindow : public QMainWindow {
     std::function<void()> onExport;
     std::function<void()> onImport;
     std::function<void()> onRefresh;
+    // "Ansicht" → "Ausführungsplan…".
+    std::function<void()> onPlan;
 
   protected:
     void closeEvent(QCloseEvent* event) override;

@@ -4,14 +4,17 @@
 #include <QApplication>
 #include <QIcon>
 #include <QTextStream>
+#include <QTimeZone>
 #include <cstdlib>
 
 #include "common/CommandLine.h"
 #include "common/ErrorExit.h"
+#include "gui/QtGerman.h"
 #include "gui/QtUi.h"
 #include "host/DatabaseOpenFailure.h"
 #include "host/DemoSummary.h"
 #include "host/DesktopProgram.h"
+#include "host/ForecastCommand.h"
 #include "host/HostMainWindow.h"
 #include "host/JobTransferCommands.h"
 #include "host/JournalCsv.h"
@@ -27,6 +30,8 @@ struct Options {
     QString importFile;
     bool journal = false;
     QString journalJob;
+    bool forecast = false;
+    ForecastCommand::Arguments forecastArguments;
 };
 
 bool hasArgument(int argc, char* argv[], const char* name) {
@@ -43,8 +48,8 @@ bool prepareDisplay(int argc, char* argv[]) {
     const bool windowless =
         hasArgument(argc, argv, "--summary") || hasArgument(argc, argv, "--export") ||
         hasArgument(argc, argv, "--import") || hasArgument(argc, argv, "--shot") ||
-        hasArgument(argc, argv, "--journal") || hasArgument(argc, argv, "--help") ||
-        hasArgument(argc, argv, "-h");
+        hasArgument(argc, argv, "--journal") || hasArgument(argc, argv, "--vorschau") ||
+        hasArgument(argc, argv, "--help") || hasArgument(argc, argv, "-h");
     if (!qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM") ||
         !qEnvironmentVariableIsEmpty("DISPLAY") ||
         !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY")) {
@@ -111,11 +116,27 @@ Options parseOptions(const QApplication& app, SuiteConfig& config) {
         QStringLiteral("Schreibt das Änderungsprotokoll als CSV (Semikolon, UTF-8) auf die "
                        "Standardausgabe: mit einer folgenden Auftrags-Id das dieses Auftrags, "
                        "sonst das aller Aufträge."));
+    const QCommandLineOption vorschau(
+        QStringLiteral("vorschau"),
+        QStringLiteral("Gibt die Starts der aktiven Zeitpläne aktiver Aufträge aus, je Zeile "
+                       "Zeitpunkt (Ortszeit), Auftrag und Zeitplan, getrennt durch Tabulatoren."));
+    const QCommandLineOption von(
+        QStringLiteral("von"),
+        QStringLiteral("Mit --vorschau: Beginn des Zeitraums, eingeschlossen (Vorgabe: jetzt)."),
+        QStringLiteral("yyyy-MM-dd HH:mm:ss"));
+    const QCommandLineOption bis(
+        QStringLiteral("bis"),
+        QStringLiteral("Mit --vorschau: Ende des Zeitraums, ausgeschlossen (Vorgabe: sieben "
+                       "Tage nach dem Beginn)."),
+        QStringLiteral("yyyy-MM-dd HH:mm:ss"));
+    const QCommandLineOption auftrag(
+        QStringLiteral("auftrag"),
+        QStringLiteral("Mit --vorschau: nur die Starts dieses Auftrags."), QStringLiteral("ID"));
     CommandLine commandLine(
         QStringLiteral("Konfiguration automatischer Aufträge. Ohne --db öffnet das Programm die "
                        "eingebettete Demodatenbank und legt sie beim ersten Start an."),
         {db, configFile, mandant, mitarbeiter, aktentyp, installationsart, summary, shot,
-         exportJobs, importJobs, journal});
+         exportJobs, importJobs, vorschau, von, bis, auftrag, journal});
     commandLine.process(app);
     const QCommandLineParser& parser = commandLine.parser();
 
@@ -149,6 +170,13 @@ Options parseOptions(const QApplication& app, SuiteConfig& config) {
         }
         o.journalJob = rest.value(0);
     }
+    o.forecast = parser.isSet(vorschau);
+    o.forecastArguments = {parser.value(von), parser.value(bis), parser.value(auftrag)};
+    if (!o.forecast && (parser.isSet(von) || parser.isSet(bis) || parser.isSet(auftrag))) {
+        QTextStream(stderr) << "autojobverw: --von, --bis und --auftrag gelten nur mit "
+                               "--vorschau.\n";
+        std::exit(1);
+    }
     return o;
 }
 
@@ -159,6 +187,7 @@ int main(int argc, char* argv[]) {
         return 2;
     }
     QApplication app(argc, argv);
+    useGermanEverywhere();
     QApplication::setApplicationName(QStringLiteral("autojobverw"));
     // Installed, the desktop entry and the icon theme carry the program's name and icon.
     QGuiApplication::setDesktopFileName(QStringLiteral("autojobverw"));
@@ -174,7 +203,7 @@ int main(int argc, char* argv[]) {
         // A desktop user never sees the console: the window-less modes keep writing there,
         // the window says it in a message box.
         const QString text = databaseOpenFailureText(config->databasePath, e.err());
-        if (options.summary || options.journal || !options.shot.isEmpty()) {
+        if (options.summary || options.forecast || options.journal || !options.shot.isEmpty()) {
             QTextStream(stderr) << QString(text).replace(QStringLiteral("\r\n"),
                                                          QStringLiteral("\n"))
                                 << "\n";
@@ -190,6 +219,17 @@ int main(int argc, char* argv[]) {
     }
     if (options.journal) {
         return JournalCsv::command(program->database(), options.journalJob);
+    }
+    if (options.forecast) {
+        QTextStream out(stdout);
+        QTextStream err(stderr);
+        try {
+            return ForecastCommand::run(program->database(), options.forecastArguments,
+                                        QTimeZone::systemTimeZone(), out, err);
+        } catch (const RaisedError& e) {
+            err << e.err().Description << "\n";
+            return 1;
+        }
     }
     if (!options.exportFile.isEmpty()) {
         return JobTransfer::exportCommand(program->database(), options.exportFile);

@@ -123,6 +123,10 @@ void cAdminJob::mPaketeCMDClick(int Index) {
         if (Index < 0 || Index >= Cmd::Anzahl || !mofrmEigenschaften) {
             return;
         }
+        if (Index == Cmd::Ausfuehrungsplan) {
+            mAusfuehrungsplanZeigen(mlJobId);
+            return;
+        }
         // Every button but copying counts as a change, even Cancel.
         if (Index != Cmd::ZeitplanKopieren) {
             mEigenschaftenGeaendert();

@@ -43,11 +43,14 @@ void cLogDaten::fLogDatenShow(long lLogArt, long lJobId) {
     ErrorExit ex(QStringLiteral("fLogDatenShow"), kKlasse);
     try {
         mlLogArt = lLogArt;
+        mlLogJobId = lJobId;
         moFrmLogDaten = std::make_shared<frmLogDaten>(
             required(services().windows).create(frmLogDaten::declaration()));
         frmLogDaten& frm = *moFrmLogDaten;
         frm.evSchliessen = mLeben.guard([this] { moFrmLogDaten_evSchliessen(); });
         frm.evShowDetail = mLeben.guard([this] { moFrmLogDaten_evShowDetail(); });
+        frm.evSuchen = mLeben.guard([this] { moFrmLogDaten_evSuchen(); });
+        frm.evSucheBeenden = mLeben.guard([this] { moFrmLogDaten_evSucheBeenden(); });
 
         CoreTexteClass& texte = required(services().coreTexte);
         const QString sTitel =

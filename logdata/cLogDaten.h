@@ -59,6 +59,13 @@ class cLogDaten {
     void moFrmLogDaten_evSchliessen();
     void moFrmLogDaten_evShowDetail();
 
+    // ---- Search (logdata/LogDatenBrowserSuche.cpp) --------------------------------------
+
+    // The browser shows the entries of its kind with all the words typed, in the period.
+    void moFrmLogDaten_evSuchen();
+    // Empties the search's boxes; the browser shows its whole kind again.
+    void moFrmLogDaten_evSucheBeenden();
+
     // ---- Deletion (logdata/LogDatenDelete.cpp) -------------------------------------------
 
     void moFrmLogDatenDel_evAktion(int Index);
@@ -81,6 +88,8 @@ class cLogDaten {
     long mlLoeschArt = 0;
     long mlLogArt = 0;
     long mlAktZeile = 0;
+    // The job of the open browser, for the search's statement.
+    long mlLogJobId = 0;
     QString msJobNameLog;
     long mlLogKontext = 0;
     QString msLogKontext;

@@ -4,8 +4,10 @@
 #include <QApplication>
 #include <QCoreApplication>
 #include <QTextStream>
+#include <ctime>
 #include <memory>
 
+#include "gui/QtGerman.h"
 #include "gui/QtWindowFactory.h"
 #include "scenario/ScenarioProgram.h"
 
@@ -32,6 +34,10 @@ void quietOffscreen(QtMsgType type, const QMessageLogContext& context, const QSt
 }  // namespace
 
 int main(int argc, char* argv[]) {
+    // As the clock stands still, the zone is fixed: forecasts across a clock change read the
+    // same on every machine.
+    qputenv("TZ", "Europe/Berlin");
+    tzset();
     std::unique_ptr<QCoreApplication> app;
     if (wantsQt(argc, argv)) {
         if (qEnvironmentVariableIsEmpty("DISPLAY") &&
@@ -41,6 +47,7 @@ int main(int argc, char* argv[]) {
         }
         qInstallMessageHandler(quietOffscreen);
         app = std::make_unique<QApplication>(argc, argv);
+        useGermanEverywhere();
     } else {
         app = std::make_unique<QCoreApplication>(argc, argv);
     }

@@ -42,6 +42,7 @@ void cAdminJob::mEditZeitintervall() {
         std::shared_ptr<frmZeitIntervall> oFenster = mofrmzeitIntervall;
         required(services().coreTexte).SetFormIcon(oFenster->window(), kFensterSymbol);
         mbLadeZeitintervall = false;
+        mNaechsteAusfuehrungenZeigen();
         oFenster->window().Show(true);
         return 0;
     });
@@ -62,6 +63,7 @@ void cAdminJob::mZeitintervallVerbinden() {
     f.evFrmZeitintervallComboboxClicked = mLeben.guard(
         [this](int Index) { mofrmzeitIntervall_evFrmZeitintervallComboboxClicked(Index); });
     f.evFRMZeitplanHilfe = mLeben.guard([this] { mofrmzeitIntervall_evFRMZeitplanHilfe(); });
+    f.evNaechsteAusfuehrungen = mLeben.guard([this] { mNaechsteAusfuehrungenZeigen(); });
 }
 
 void cAdminJob::mFuelleFrmZeitintervall() {

@@ -149,6 +149,7 @@ void cAdminJob::mofrmzeitIntervall_evFrmZeitintervallCommandButtonClicked(int In
                           mofrmZeitplanEigenschaften->lblLabel(frmZeitplan::Lbl::Intervall)
                               .setCaption(msGetIntervallString());
                       }
+                      mNaechsteAusfuehrungenZeigen();
                       return 0;
                   });
 }

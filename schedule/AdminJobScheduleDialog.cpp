@@ -73,6 +73,7 @@ void cAdminJob::mShowFRMZeitplanEigenschaften(long lZeitplanId, const QString&) 
             [this](int Index) { mofrmZeitplanEigenschaften_evFRMZeitplanOptOptionClicked(Index); });
         frm.evFRMZeitplanHilfe =
             mLeben.guard([this] { mofrmZeitplanEigenschaften_evFRMZeitplanHilfe(); });
+        frm.evNaechsteAusfuehrungen = mLeben.guard([this] { mNaechsteAusfuehrungenZeigen(); });
 
         mlZeitplanId = lZeitplanId;
         mShowZeitplanEigenschaften(mlZeitplanId);
@@ -80,6 +81,7 @@ void cAdminJob::mShowFRMZeitplanEigenschaften(long lZeitplanId, const QString&) 
             texte->SetFormIcon(frm.window(), kFensterSymbol);
         }
         mbLadeZeitplan = false;
+        mNaechsteAusfuehrungenZeigen();
         // The buttons release the member while the window is on show; this copy keeps the
         // window alive until the modal showing has returned.
         const std::shared_ptr<frmZeitplan> oFenster = mofrmZeitplanEigenschaften;

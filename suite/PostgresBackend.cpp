@@ -12,6 +12,7 @@
 #include "suite/SqlDates.h"
 #include "suite/SqlDialect.h"
 #include "suite/SqlErrors.h"
+#include "suite/SqlFullText.h"
 #include "suite/SqlTokens.h"
 
 namespace {
@@ -157,7 +158,8 @@ bool PostgresBackend::mayRepeat(const QString& sql, const QSqlError& error) cons
 }
 
 QString PostgresBackend::translate(const QString& serverSql, const QDateTime& now) const {
-    return SqlDialect::translate(serverSql, now, SqlDialect::Target::Postgres);
+    return SqlDialect::translate(SqlFullText::rewrite(serverSql, SqlDialect::Target::Postgres), now,
+                                 SqlDialect::Target::Postgres);
 }
 
 std::optional<SqlTable> PostgresBackend::table(const QSqlDatabase& db, const QString& name,
@@ -346,19 +348,18 @@ void PostgresBackend::applySchema(const QSqlDatabase& db, const QString& script)
 }
 
 void PostgresBackend::upgradeSchema(const QSqlDatabase& db) const {
-    // The newest objects of the upgrade tell whether it ran: each count is 1 once it did. The
-    // check comes first without the lock, so that a current database costs one query at the
-    // start.
+    // The objects the upgrade adds tell whether it ran; the check comes first without the
+    // lock, so that a current database costs one query at the start.
     const auto behind = [&] {
-        const QString newest = QStringLiteral(
-            "SELECT least("
-            "(SELECT count(*) FROM information_schema.columns WHERE table_schema = "
+        const QString added = QStringLiteral(
+            "SELECT (SELECT count(*) FROM information_schema.columns WHERE table_schema = "
             "current_schema() AND table_name = 'tautojobschedule' AND column_name = "
-            "'zeilenversion'), "
-            "(SELECT count(*) FROM information_schema.tables WHERE table_schema = "
-            "current_schema() AND table_name = 'tautojobjournal'))");
-        QSqlQuery query = runSql(*this, db, newest, {}, newest);
-        return query.next() && query.value(0).toLongLong() == 0;
+            "'zeilenversion') + (SELECT count(*) FROM pg_indexes WHERE schemaname = "
+            "current_schema() AND indexname = 'ixjobagentlogdaten_suche') + (SELECT count(*) "
+            "FROM information_schema.tables WHERE table_schema = current_schema() AND "
+            "table_name = 'tautojobjournal')");
+        QSqlQuery query = runSql(*this, db, added, {}, added);
+        return query.next() && query.value(0).toLongLong() < 3;
     };
     if (!behind()) {
         return;

@@ -2,6 +2,7 @@
 
 #include <sqlite3.h>
 
+#include "suite/SchemaUpgradeFullText.h"
 #include "suite/SqlErrors.h"
 
 namespace {
@@ -105,7 +106,8 @@ QStringList schemaUpgrade(sqlite3* db, const QString& script) {
     const QList<SchemaObject> schema = objectsOf(scratch);
     // Columns first: a trigger or view made afterwards may name them.
     for (const SchemaObject& wanted : schema) {
-        if (wanted.type == QLatin1String("table") && find(wanted)) {
+        if (wanted.type == QLatin1String("table") && find(wanted) &&
+            !SchemaUpgradeFullText::isShadowTable(schema, wanted)) {
             try {
                 statements << missingColumns(db, scratch, wanted.name);
             } catch (...) {
@@ -116,9 +118,12 @@ QStringList schemaUpgrade(sqlite3* db, const QString& script) {
     }
     sqlite3_close(scratch);
     for (const SchemaObject& wanted : schema) {
+        if (SchemaUpgradeFullText::isShadowTable(schema, wanted)) {
+            continue;
+        }
         const SchemaObject* have = find(wanted);
         if (!have) {
-            statements << wanted.sql;
+            statements << wanted.sql << SchemaUpgradeFullText::afterCreate(wanted);
         } else if (wanted.type == QLatin1String("view") && have->sql != wanted.sql) {
             statements << QStringLiteral("DROP VIEW \"%1\"").arg(have->name) << wanted.sql;
         }

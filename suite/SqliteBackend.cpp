@@ -8,6 +8,7 @@
 
 #include "suite/SqlDialect.h"
 #include "suite/SqlErrors.h"
+#include "suite/SqlFullText.h"
 
 namespace {
 
@@ -59,7 +60,7 @@ RaisedError sqliteFailure(sqlite3* db, const QString& statement) {
 }
 
 QString SqliteBackend::translate(const QString& serverSql, const QDateTime& now) const {
-    return SqlDialect::translate(serverSql, now);
+    return SqlDialect::translate(SqlFullText::rewrite(serverSql, SqlDialect::Target::Sqlite), now);
 }
 
 std::optional<SqlTable> SqliteBackend::table(const QSqlDatabase& db, const QString& name,

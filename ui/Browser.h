@@ -70,6 +70,9 @@ class IBrowser : public virtual IControl {
 
     // Runs the query and fills; Refresh runs it again keeping the column settings.
     virtual void Load() = 0;
+    // Words a search looked for: the browser marks where a word of a cell begins with one.
+    virtual QStringList SuchWoerter() const = 0;
+    virtual void setSuchWoerter(const QStringList& words) = 0;
     virtual void Refresh(bool flag) = 0;
     // The host's notification target and main object, which the browser may replace.
     virtual void AttachHost(void*& oNotify, void*& oMain) = 0;

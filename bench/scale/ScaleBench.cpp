@@ -26,6 +26,7 @@
 #include <cstdio>
 
 #include "agent/JobAgentSimulator.h"
+#include "bench/scale/QtWindowBench.h"
 #include "bench/scale/ScaleBenchServer.h"
 #include "common/ErrObject.h"
 #include "common/Recordset.h"
@@ -40,6 +41,7 @@ namespace {
 
 constexpr qint64 kHistoryRuns = 5000000;  // the default of --history-runs
 constexpr int kScreenRows = 40;
+constexpr int kGridRows = 20000;  // the default of --grid-rows
 const QDateTime kBenchNow(QDate(2026, 11, 23), QTime(12, 0, 0));
 
 void say(const QString& line) {
@@ -297,6 +299,24 @@ int measureRawHistory(const QString& path) {
     return 0;
 }
 
+// The same history through the program's Qt window, offscreen, opened from the menu.
+int measureHistoryWindow(int argc, char* argv[], const QString& path) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication app(argc, argv);
+    const GridFill r = openHistoryWindow(path, kBenchNow);
+    report(r.ms, r.rows);
+    return 0;
+}
+
+// A Qt grid of the program filled with n rows, offscreen.
+int measureGridFill(int argc, char* argv[], const QString& which, int rows) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication app(argc, argv);
+    const GridFill r = which == u"logfiles" ? fillLogFileList(rows) : fillScheduleCopyList(rows);
+    report(r.ms, r.rows);
+    return 0;
+}
+
 const char* const kDeleteHistory =
     " delete from tAutoJobVerlauf where tAutoJobVerlauf.idAutoJobSchedule in (select "
     "tAutoJobSchedule.idAutoJobSchedule FROM tAutoJobSchedule WHERE idAutoJob = 1)";
@@ -410,6 +430,18 @@ QString row(const QString& what, const QString& data, const Result& program, con
         .arg(raw.kb / 1024);
 }
 
+// A measurement against a fixed time rather than a raw side.
+QString absoluteRow(const QString& what, const QString& data, const Result& program,
+                    double targetMs) {
+    return QStringLiteral("| %1 | %2 | %3 ms (%4 Zeilen) | | | %5 | %6 MB / |")
+        .arg(what, data)
+        .arg(program.ms, 0, 'f', 1)
+        .arg(program.rows)
+        .arg(program.ms <= targetMs ? QStringLiteral("<= %1 ms erreicht").arg(targetMs)
+                                    : QStringLiteral("> %1 ms VERFEHLT").arg(targetMs))
+        .arg(program.kb / 1024);
+}
+
 }  // namespace
 
 int main(int argc, char* argv[]) {
@@ -427,6 +459,10 @@ int main(int argc, char* argv[]) {
                 return measureProgramHistory(argc, argv, path);
             if (what == u"raw-history")
                 return measureRawHistory(path);
+            if (what == u"program-history-qt")
+                return measureHistoryWindow(argc, argv, path);
+            if (what.startsWith(u"grid-"))
+                return measureGridFill(argc, argv, what.mid(5), path.toInt());
             if (what == u"program-delete")
                 return measureProgramDelete(argc, argv, path);
             if (what == u"raw-delete")
@@ -458,12 +494,17 @@ int main(int argc, char* argv[]) {
         QStringLiteral("history-runs"),
         QStringLiteral("Läufe des Verlaufs-Datensatzes (Vorgabe %1).").arg(kHistoryRuns),
         QStringLiteral("N"), QString::number(kHistoryRuns));
-    parser.addOptions({cacheOption, repeatOption, serverOption, historyOption});
+    const QCommandLineOption gridOption(
+        QStringLiteral("grid-rows"),
+        QStringLiteral("Zeilen der Gitter-Messungen (Vorgabe %1).").arg(kGridRows),
+        QStringLiteral("N"), QString::number(kGridRows));
+    parser.addOptions({cacheOption, repeatOption, serverOption, historyOption, gridOption});
     parser.process(app);
     const QString cache = parser.value(cacheOption);
     const int repeat = std::max(1, parser.value(repeatOption).toInt());
     const bool onServer = parser.isSet(serverOption);
     const qint64 historyRuns = std::max<qint64>(1, parser.value(historyOption).toLongLong());
+    const int gridRows = std::max(1, parser.value(gridOption).toInt());
 
     try {
         QString jobs0, jobs10k, jobs100k, history, scratch;
@@ -521,6 +562,9 @@ int main(int argc, char* argv[]) {
         table << row(QStringLiteral("Verlauf eines Auftrags, 2 Wochen, alle"), historyData,
                      measured(QStringLiteral("program-history"), history, repeat),
                      measured(QStringLiteral("raw-history"), history, repeat), 2.0);
+        table << row(QStringLiteral("Verlauf eines Auftrags im Qt-Fenster, 2 Wochen, alle"),
+                     historyData, measured(QStringLiteral("program-history-qt"), history, repeat),
+                     measured(QStringLiteral("raw-history"), history, repeat), 2.0);
         table << row(
             QStringLiteral("\"Verlauf löschen\" und Verlauf neu"), historyData,
             measured(QStringLiteral("program-delete"), scratch, std::min(repeat, 2),
@@ -528,6 +572,14 @@ int main(int argc, char* argv[]) {
             measured(QStringLiteral("raw-delete"), scratch, std::min(repeat, 2), restoreScratch),
             1.2);
         removeScratch();
+        for (const auto& [what, name] :
+             {std::pair{QStringLiteral("grid-logfiles"), QStringLiteral("Logfile-Liste")},
+              std::pair{QStringLiteral("grid-copy"),
+                        QStringLiteral("Auftragsliste der Zeitplan-Kopie")}}) {
+            table << absoluteRow(QStringLiteral("Qt-Gitter gefüllt: %1").arg(name),
+                                 QStringLiteral("%1 Zeilen").arg(grouped(gridRows)),
+                                 measured(what, QString::number(gridRows), repeat), 300);
+        }
         say(QString());
         if (onServer) {
             say(QStringLiteral(

@@ -195,7 +195,10 @@ expect "one row of browser settings per key and staff member" \
     "SELECT count(*) FROM pragma_index_list('tBrowserEinstellungen') WHERE \"unique\" = 1;" "1"
 
 # No rows in the schema alone
-TABLES="$(q "SELECT name FROM sqlite_master WHERE type = 'table' AND name NOT LIKE 'sqlite_%';")"
+# (the full-text index of the log keeps its settings in tables of its own)
+TABLES="$(q "SELECT name FROM sqlite_master m WHERE type = 'table' AND name NOT LIKE 'sqlite_%'
+               AND NOT EXISTS (SELECT 1 FROM sqlite_master v WHERE v.sql LIKE 'CREATE VIRTUAL TABLE%'
+                   AND m.name LIKE v.name || '\\_%' ESCAPE '\\');")"
 count_sql="SELECT 0"
 for t in $TABLES; do count_sql="$count_sql + (SELECT count(*) FROM \"$t\")"; done
 expect_zero "rows created by schema.sql" "$count_sql;"

@@ -94,16 +94,22 @@ else
     finish
 fi
 
+# The full-text index of the log each database keeps its own way: on SQLite a virtual table
+# with the tables it makes for itself, on the server an index on an expression. Neither is
+# compared.
+NOT_FULL_TEXT="NOT EXISTS (SELECT 1 FROM sqlite_master v WHERE v.sql LIKE 'CREATE VIRTUAL TABLE%'
+                  AND (sqlite_master.name = v.name OR sqlite_master.name LIKE v.name || '\\_%' ESCAPE '\\'))"
+
 # Tables and views
 same "tables and views" \
     "$(s "SELECT type || ' ' || lower(name) FROM sqlite_master
-           WHERE type IN ('table', 'view') AND name NOT LIKE 'sqlite_%' ORDER BY 1;")" \
+           WHERE type IN ('table', 'view') AND name NOT LIKE 'sqlite_%' AND $NOT_FULL_TEXT ORDER BY 1;")" \
     "$(p "SELECT CASE c.relkind WHEN 'r' THEN 'table' ELSE 'view' END || ' ' || c.relname
             FROM pg_class c JOIN pg_namespace n ON n.oid = c.relnamespace
            WHERE n.nspname = 'public' AND c.relkind IN ('r', 'v') ORDER BY 1;")"
 
 # Columns of each, in order
-OBJECTS="$(s "SELECT name FROM sqlite_master WHERE type IN ('table', 'view') AND name NOT LIKE 'sqlite_%' ORDER BY name;")"
+OBJECTS="$(s "SELECT name FROM sqlite_master WHERE type IN ('table', 'view') AND name NOT LIKE 'sqlite_%' AND $NOT_FULL_TEXT ORDER BY name;")"
 for obj in $OBJECTS; do
     lower="$(tr '[:upper:]' '[:lower:]' <<<"$obj")"
     same "columns of $obj" \
@@ -128,7 +134,7 @@ same "indexes" \
             JOIN pg_class ic ON ic.oid = i.indexrelid
             JOIN pg_class tc ON tc.oid = i.indrelid
             JOIN pg_namespace n ON n.oid = tc.relnamespace
-           WHERE n.nspname = 'public' AND NOT i.indisprimary ORDER BY 1;")"
+           WHERE n.nspname = 'public' AND NOT i.indisprimary AND i.indexprs IS NULL ORDER BY 1;")"
 
 # Primary keys: the columns of each
 same "primary keys" \
@@ -136,7 +142,7 @@ same "primary keys" \
                  || (SELECT group_concat(lower(name), ', ')
                        FROM (SELECT name FROM pragma_table_info(m.name) WHERE pk > 0 ORDER BY pk)) || ')'
             FROM sqlite_master m
-           WHERE m.type = 'table' AND m.name NOT LIKE 'sqlite_%' ORDER BY 1;")" \
+           WHERE m.type = 'table' AND m.name NOT LIKE 'sqlite_%' AND ${NOT_FULL_TEXT//sqlite_master.name/m.name} ORDER BY 1;")" \
     "$(p "SELECT tc.relname || ' (' || string_agg(a.attname, ', ' ORDER BY k.n) || ')'
             FROM pg_index i
             JOIN pg_class tc ON tc.oid = i.indrelid

@@ -4,6 +4,8 @@
 #include <QToolBar>
 
 #include "QtTestKit.h"
+#include "gui/QtBrowser.h"
+#include "gui/QtSearchMarks.h"
 #include "gui/QtToolBar.h"
 #include "ui/windows/frmLogDaten.h"
 #include "ui/windows/frmLogDatenDel.h"
@@ -36,20 +38,60 @@ struct QtForm {
     QStringList events;
 };
 
-TEST(QtFrmLogDaten, TheBrowserFillsTheWindowAndTheCloseBoxEndsIt) {
+TEST(QtFrmLogDaten, TheBrowserFillsTheWindowBelowTheSearchAndTheCloseBoxEndsIt) {
     QtForm<frmLogDaten> f;
     f.form->evSchliessen = [&] { f.events << QStringLiteral("Schliessen"); };
+    f.form->evSuchen = [&] { f.events << QStringLiteral("Suchen"); };
     f.show();
     EXPECT_EQ(f.qt->widget()->windowTitle(), "Logdaten");
+    qt_test::expectDeclaredControlsShown(*f.qt, frmLogDaten::declaration(), true);
     QWidget* browser = f.widget("ctlLogDaten");
+    QWidget* search = f.widget("txtSuchen");
     ASSERT_NE(browser, nullptr);
-    EXPECT_EQ(browser->geometry(), f.qt->widget()->rect());
-    f.qt->widget()->resize(700, 400);
-    EXPECT_EQ(browser->geometry(), f.qt->widget()->rect());
+    ASSERT_NE(search, nullptr);
+    for (const QSize size : {QSize(960, 560), QSize(700, 400)}) {
+        f.qt->widget()->resize(size);
+        QApplication::processEvents();
+        const QRect below =
+            f.qt->widget()->rect().adjusted(0, search->geometry().bottom() + 1, 0, 0);
+        EXPECT_EQ(browser->geometry().bottom(), below.bottom());
+        EXPECT_EQ(browser->geometry().width(), below.width());
+        EXPECT_GT(browser->geometry().top(), search->geometry().bottom());
+        EXPECT_LT(browser->geometry().top(), search->geometry().bottom() + 12);
+    }
+    // Typing searches nothing yet; Enter does.
+    QTest::keyClicks(search, "Rechnung");
+    EXPECT_EQ(f.events.count("Suchen"), 0);
+    QTest::keyClick(search, Qt::Key_Return);
+    EXPECT_EQ(f.events.count("Suchen"), 1);
+    f.events.clear();
     f.qt->widget()->close();
     // The close request and the unload both tell.
     EXPECT_EQ(f.events, (QStringList{"Schliessen", "Schliessen"}));
     EXPECT_FALSE(f.form->window().Visible());
+}
+
+TEST(QtFrmLogDaten, CtrlFInTheBrowserFocusesTheSearchAndEscapeEndsIt) {
+    QtForm<frmLogDaten> f;
+    f.form->evSucheBeenden = [&] { f.events << QStringLiteral("Beenden"); };
+    f.show();
+    auto* browser = dynamic_cast<QtBrowser*>(f.qt->view(QStringLiteral("ctlLogDaten")));
+    ASSERT_NE(browser, nullptr);
+    browser->view()->setFocus();
+    QTest::keyClick(browser->view(), Qt::Key_F, Qt::ControlModifier);
+    EXPECT_TRUE(f.widget("txtSuchen")->hasFocus());
+    EXPECT_TRUE(f.form->txtSuchen().Focused());
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+    EXPECT_EQ(f.events, QStringList{"Beenden"});
+}
+
+TEST(QtSearchMarksTest, MarksEveryWordThatBeginsWithASearchedWordInAnyCase) {
+    using Marks = QList<QPair<int, int>>;
+    EXPECT_EQ(QtSearchMarks::marks("Rechnungsstapel März, märz-Rechnung", {"märz", "RECHNUNG"}),
+              (Marks{{0, 8}, {16, 4}, {22, 4}, {27, 8}}));
+    // Inside a word is no beginning.
+    EXPECT_EQ(QtSearchMarks::marks("Rechnungsstapel", {"stapel"}), Marks{});
+    EXPECT_EQ(QtSearchMarks::marks("", {"a"}), Marks{});
 }
 
 TEST(QtFrmLogDatenDel, EveryControlHasItsCaptionAndTheButtonsRaiseTheirIndex) {

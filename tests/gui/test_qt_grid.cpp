@@ -2,6 +2,7 @@
 #include <QHeaderView>
 #include <QTableWidget>
 #include <QTest>
+#include <algorithm>
 
 #include "QtTestKit.h"
 #include "gui/QtGrid.h"
@@ -100,6 +101,43 @@ TEST_F(QtGridTest, ClicksMoveTheCurrentCellAndRaiseClickOrDblClick) {
     EXPECT_EQ(w.take(), (QStringList{"LeaveCell grdBeleg 1,1", "Click grdBeleg 2,0"}));
     QTest::mouseDClick(table()->viewport(), Qt::LeftButton, {}, cell.center());
     EXPECT_TRUE(w.take().contains("DblClick grdBeleg 2,0"));
+}
+
+TEST_F(QtGridTest, AnAddedRowTouchesThatRowOnlyAndShowsWhole) {
+    QTableWidgetItem* first = table()->item(0, 0);
+    QList<int> touched;
+    QObject::connect(table()->model(), &QAbstractItemModel::dataChanged,
+                     [&](const QModelIndex& from, const QModelIndex& to) {
+                         for (int r = from.row(); r <= to.row(); ++r) {
+                             touched << r;
+                         }
+                     });
+    grid().AddItem(QStringLiteral("Storno\t\t9"));
+    grid().setRowData(3, QVariant(9));
+    // More rows, as the copy's job list grows: the new row only.
+    grid().setRows(grid().Rows() + 1);
+    grid().setCellChecked(4, 1, true);
+    EXPECT_TRUE(std::all_of(touched.begin(), touched.end(), [](int r) { return r >= 2; }))
+        << touched.size();
+    EXPECT_EQ(table()->item(0, 0), first);
+    ASSERT_EQ(table()->rowCount(), 4);
+    EXPECT_EQ(table()->item(3, 1)->checkState(), Qt::Checked);
+    EXPECT_EQ(table()->item(3, 0)->text(), "");
+    EXPECT_EQ(table()->item(2, 0)->text(), "Storno");
+    EXPECT_EQ(table()->item(2, 1)->checkState(), Qt::Unchecked);
+    EXPECT_TRUE(table()->item(2, 1)->flags() & Qt::ItemIsUserCheckable);
+    EXPECT_EQ(table()->item(2, 2)->textAlignment() & Qt::AlignHorizontal_Mask, Qt::AlignRight);
+    EXPECT_EQ(table()->currentRow(), 0);
+
+    // Into an emptied grid the first added row becomes the current one.
+    grid().setRows(1);
+    EXPECT_EQ(table()->rowCount(), 0);
+    grid().AddItem(QStringLiteral("Rechnung\t\t7"));
+    EXPECT_EQ(table()->rowCount(), 1);
+    EXPECT_EQ(grid().Row(), 1);
+    EXPECT_EQ(table()->currentRow(), 0);
+    EXPECT_EQ(table()->currentColumn(), 0);
+    EXPECT_TRUE(w.take().isEmpty());
 }
 
 TEST(QtGridReadOnly, WithoutEditableTheChecksCannotBeToggled) {

@@ -2,30 +2,14 @@
 // texts included, and every option listed.
 #include <gtest/gtest.h>
 
-#include <QProcess>
-#include <QProcessEnvironment>
+#include "tests/host/ProgramRun.h"
 
 namespace {
 
-struct Ergebnis {
-    int exitCode = -1;
-    QString out;
-    QString err;
-};
+using Ergebnis = ProgramRun;
 
 Ergebnis run(const QString& program, const QStringList& arguments) {
-    QProcess p;
-    QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
-    env.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
-    p.setProcessEnvironment(env);
-    p.start(program, arguments);
-    if (!p.waitForFinished(30000)) {
-        p.kill();
-        p.waitForFinished();
-    }
-    return {p.exitStatus() == QProcess::NormalExit ? p.exitCode() : -1,
-            QString::fromUtf8(p.readAllStandardOutput()),
-            QString::fromUtf8(p.readAllStandardError())};
+    return runProgram(program, arguments);
 }
 
 // What QCommandLineParser writes of its own.
@@ -67,6 +51,8 @@ TEST(CommandLineHelpTest, TheProgramsHelpIsGermanAndListsEveryOption) {
                 QStringLiteral("--aktentyp <N>"), QStringLiteral("--installationsart <N>"),
                 QStringLiteral("--summary "), QStringLiteral("--shot <DATEI>"),
                 QStringLiteral("--export <DATEI>"), QStringLiteral("--import <DATEI>"),
+                QStringLiteral("--vorschau "), QStringLiteral("--von <yyyy-MM-dd HH:mm:ss>"),
+                QStringLiteral("--bis <yyyy-MM-dd HH:mm:ss>"), QStringLiteral("--auftrag <ID>"),
                 QStringLiteral("--journal ")});
 }
 

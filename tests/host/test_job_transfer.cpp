@@ -205,9 +205,9 @@ TEST_F(JobTransferTest, TheReportOfManyJobsShowsTheSummaryFirstAndShortensEachLi
 
 TEST_F(JobTransferTest, TheDocumentItselfMustBeJsonOfThisFormatAndVersion) {
     EXPECT_EQ(problemsOf("{ kein json"),
-              QStringList{QStringLiteral("Das Dokument ist kein gültiges JSON: unterminated "
-                                         "object (an Stelle 3).")})
-        << "Qt's own words for the parse error";
+              QStringList{QStringLiteral("Das Dokument ist kein gültiges JSON: Nicht "
+                                         "abgeschlossenes Objekt (an Stelle 3).")})
+        << "Qt's own words for the parse error, in Qt's German";
     QJsonObject doc = parse(exportAll());
     doc[QStringLiteral("format")] = QStringLiteral("etwas anderes");
     EXPECT_EQ(problemsOf(bytesOf(doc)),

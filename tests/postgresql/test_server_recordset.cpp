@@ -290,6 +290,7 @@ TEST_F(ServerRecordset, AnOlderDatabaseCountsTheWritesOfJobsAndSchedulesAfterThe
         "ALTER TABLE tAutoJobJob DROP COLUMN Zeilenversion;"
         "ALTER TABLE tAutoJobSchedule DROP COLUMN Zeilenversion;"
         "DROP FUNCTION zeilenversion_weiterzaehlen() CASCADE;"
+        "DROP INDEX ixJobAgentLogDaten_Suche;"
         "INSERT INTO tAutoJobJob (Name) VALUES ('Alt');"
         "INSERT INTO tAutoJobSchedule (idAutoJob, Name) VALUES (1, 'Nachts')");
     db->upgradeSchema();
@@ -299,6 +300,9 @@ TEST_F(ServerRecordset, AnOlderDatabaseCountsTheWritesOfJobsAndSchedulesAfterThe
         "UPDATE tAutoJobSchedule SET Aktiviert = 0");
     EXPECT_EQ(stored("SELECT Name || '|' || Zeilenversion FROM tAutoJobJob"), "Neu|2");
     EXPECT_EQ(stored("SELECT Zeilenversion FROM tAutoJobSchedule"), "1");
+    EXPECT_EQ(stored("SELECT count(*) FROM pg_indexes WHERE indexname = "
+                     "'ixjobagentlogdaten_suche'"),
+              "1");
 
     // The record set writes only the row as it read it: a write of another workstation in
     // between is not undone.

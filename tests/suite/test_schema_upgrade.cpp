@@ -143,3 +143,45 @@ TEST(SchemaUpgrade, AnOlderDatabaseGetsTheChangeJournalWithItsIndexes) {
                        "idAutoJobSchedule,Art,Vorher,Nachher,Anlass"));
     EXPECT_EQ(scalar(path, "SELECT Name FROM tAutoJobJob"), QStringLiteral("Neu"));
 }
+
+// A log made by an earlier version gets its full-text index, filled with the entries it has,
+// and what is written after is indexed by the database itself.
+TEST(SchemaUpgrade, AnOlderLogIsIndexedAndWritesAfterAreIndexedByTheDatabase) {
+    QTemporaryDir dir;
+    SuiteConfig config;
+    config.databasePath = dir.filePath(QStringLiteral("alt.sqlite"));
+    config.paths.insert(83, dir.filePath(QStringLiteral("data")));
+    {
+        auto db = Database::open(config.databasePath, std::make_shared<SystemClock>());
+        db->applySchema();
+        db->runScript(QStringLiteral(
+            "DROP TRIGGER trJobAgentLogDaten_SucheNeu;"
+            "DROP TRIGGER trJobAgentLogDaten_SucheWeg;"
+            "DROP TRIGGER trJobAgentLogDaten_SucheNeuText;"
+            "DROP TABLE SYS_JobAgentLogDaten_Suche;"
+            "INSERT INTO SYS_JobAgentLogDaten (LogTyp, Text) VALUES (2, 'Rechnungsstapel März');"
+            "INSERT INTO SYS_JobAgentLogDaten (LogTyp, Text) VALUES (2, 'Kunden importiert');"));
+    }
+    {
+        auto db = openSuiteDatabase(config, std::make_shared<SystemClock>());
+        EXPECT_EQ(scalar(config.databasePath,
+                         "SELECT rowid FROM SYS_JobAgentLogDaten_Suche WHERE "
+                         "SYS_JobAgentLogDaten_Suche MATCH '\"märz\"'"),
+                  QStringLiteral("1"));
+        db->runScript(QStringLiteral(
+            "INSERT INTO SYS_JobAgentLogDaten (LogTyp, Text) VALUES (2, 'Rechnung April');"
+            "DELETE FROM SYS_JobAgentLogDaten WHERE Id = 1;"
+            "INSERT INTO SYS_JobAgentLogDaten_Suche (SYS_JobAgentLogDaten_Suche, rank) "
+            "VALUES ('integrity-check', 1);"));
+    }
+    EXPECT_EQ(scalar(config.databasePath,
+                     "SELECT group_concat(rowid) FROM SYS_JobAgentLogDaten_Suche WHERE "
+                     "SYS_JobAgentLogDaten_Suche MATCH '\"rechnung\"*'"),
+              QStringLiteral("3"));
+    sqlite3* db = nullptr;
+    sqlite3_open(config.databasePath.toUtf8().constData(), &db);
+    QFile schema(QStringLiteral(":/db/schema.sql"));
+    ASSERT_TRUE(schema.open(QIODevice::ReadOnly));
+    EXPECT_EQ(schemaUpgrade(db, QString::fromUtf8(schema.readAll())), QStringList());
+    sqlite3_close(db);
+}

@@ -156,6 +156,8 @@ TEST(FrmEigenschaftenDeclaration, EveryControlWithItsCaptionHintAndPlace) {
         {"cmdCommandButton", 5, ControlKind::Button, "&Löschen", "", "", 1},
         {"cmdCommandButton", 9, ControlKind::Button, "&Kopieren",
          "Zeitplan auf andere Aufträge kopieren", "", 1},
+        {"cmdCommandButton", 11, ControlKind::Button, "Aus&führungsplan",
+         "Die nächsten Starts dieses Auftrags", "", 1},
         {"cmdCommandButton", 0, ControlKind::Button, "OK", "", "", -1},
         {"cmdCommandButton", 1, ControlKind::Button, "Abbrechen", "", "", -1},
         {"cmdCommandButton", 7, ControlKind::Button, "Ü&bernehmen", "Übernehmen", "", -1},

@@ -23,6 +23,8 @@ TEST(ScheduleWindowDeclaration, ControlsCaptionsAndFrames) {
                      "lblLabel(1)|Uhr (Uhrzeit)|frmFrame(0)", "ctlMaskEdBox(-1)||frmFrame(0)",
                      "optOption(3)|Wiederholt|frmFrame(0)", "frmFrame(1)||frmFrame(0)",
                      "lblLabel(0)||frmFrame(1)", "cmdCommandButton(2)|Ändern...|frmFrame(1)",
+                     "fraNaechsteAusfuehrungen(-1)|Nächste Ausführungen|",
+                     "grdNaechsteAusfuehrungen(-1)||fraNaechsteAusfuehrungen",
                      "cmdCommandButton(0)|OK|", "cmdCommandButton(1)|Abbrechen|"}));
     EXPECT_TRUE(frmZeitplan::declaration().keyPreview);
 }
@@ -74,6 +76,17 @@ TEST(ScheduleWindow, ButtonsCloseBoxAndHelpKey) {
     s.window->userClose();
     EXPECT_EQ(s.events, (QStringList{"Button 0", "Button 1", "Button 2", "Hilfe", "Button 1"}));
     EXPECT_TRUE(s.window->Visible());
+}
+
+TEST(ScheduleWindow, EveryFieldButNotTheButtonsAsksForTheNextStarts) {
+    Schedule s;
+    s.form->evNaechsteAusfuehrungen = [&s] { s.events << QStringLiteral("Liste"); };
+    s.form->optOption(frmZeitplan::Opt::Einmal).setValue(true);
+    s.form->ctlDatePicker().setValue(QDate(2026, 5, 1));
+    s.form->txtTextBox(frmZeitplan::Txt::Name).setText(QStringLiteral("Nacht"));
+    s.control("cmdCommandButton", frmZeitplan::Cmd::Ok).userClick();
+    // The option's own event comes first, so that the controller has set the fields.
+    EXPECT_EQ(s.events, (QStringList{"Option 2", "Liste", "Liste", "Liste", "Button 0"}));
 }
 
 }  // namespace

@@ -161,6 +161,8 @@ class Declaration {
         add("cmdCommandButton", frmEigenschaften::Cmd::ZeitplanKopieren, ControlKind::Button,
             "&Kopieren", "Zeitplan auf andere Aufträge kopieren")
             .enabled = false;
+        add("cmdCommandButton", frmEigenschaften::Cmd::Ausfuehrungsplan, ControlKind::Button,
+            "Aus&führungsplan", "Die nächsten Starts dieses Auftrags");
         page_ = -1;
     }
 

@@ -27,7 +27,8 @@ class frmEigenschaften : public WindowContract {
         static constexpr int Logverzeichnis = 8;
         static constexpr int ZeitplanKopieren = 9;
         static constexpr int Mappingdatei = 10;
-        static constexpr int Anzahl = 11;
+        static constexpr int Ausfuehrungsplan = 11;  // the plan of this job's starts
+        static constexpr int Anzahl = 12;
     };
     struct Txt {
         static constexpr int Name = 0;

@@ -1,9 +1,16 @@
 #include "ui/windows/frmLogDaten.h"
 
+#include "ui/ControlDeclaration.h"
+
 using contract::fire;
 using contract::is;
 
 namespace {
+
+using declare::control;
+
+constexpr int kTasteF = 70;
+constexpr int kStrg = 2;
 
 WindowDecl makeDeclaration() {
     WindowDecl d;
@@ -14,7 +21,13 @@ WindowDecl makeDeclaration() {
     ControlDecl browser;
     browser.name = QStringLiteral("ctlLogDaten");
     browser.kind = ControlKind::Browser;
-    d.controls << browser;
+    d.controls << browser
+               << control("txtSuchen", -1, ControlKind::TextBox, "Suchen",
+                          "Einträge mit allen Wörtern zeigen: Eingabetaste sucht, Esc beendet, "
+                          "Strg+F springt hierher")
+               << control("txtSuchenVon", -1, ControlKind::TextBox, "von", "TT.MM.JJJJ")
+               << control("txtSuchenBis", -1, ControlKind::TextBox, "bis", "TT.MM.JJJJ")
+               << control("lblSuchTreffer", -1, ControlKind::Label);
     return d;
 }
 
@@ -32,7 +45,24 @@ frmLogDaten::frmLogDaten(std::unique_ptr<IWindow> w) : WindowContract(std::move(
     listen(std::move(events));
 }
 
+void frmLogDaten::onKeyDown(int keyCode, int shift, bool searchBox) {
+    if (keyCode == kTasteF && shift == kStrg) {
+        txtSuchen().SetFocus();
+    } else if (keyCode == KeyCode::Escape && shift == 0) {
+        fire(evSucheBeenden);
+    } else if (keyCode == KeyCode::Return && shift == 0 && searchBox) {
+        fire(evSuchen);
+    }
+}
+
 void frmLogDaten::onControl(const ControlEvent& e) {
+    // Ctrl+F and Escape in the browser or the search's boxes, Enter in the boxes.
+    if (e.type == EventType::KeyDown) {
+        const bool searchBox = is(e, "txtSuchen") || is(e, "txtSuchenVon") || is(e, "txtSuchenBis");
+        if (searchBox || is(e, "ctlLogDaten")) {
+            onKeyDown(e.keyCode, e.shift, searchBox);
+        }
+    }
     if (!is(e, "ctlLogDaten")) {
         return;
     }

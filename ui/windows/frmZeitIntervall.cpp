@@ -12,7 +12,7 @@ class Declaration {
         d_.caption = QStringLiteral("Zeitplan für wiederkehrende Aufträge bearbeiten");
         d_.keyPreview = true;  // F1 asks for help wherever the focus is
         d_.width = 560;
-        d_.height = 520;
+        d_.height = 720;
 
         add("fraFrame", frmZeitIntervall::Fra::Haeufigkeit, ControlKind::Frame, "Häufigkeit");
         within("fraFrame", frmZeitIntervall::Fra::Haeufigkeit);
@@ -73,6 +73,11 @@ class Declaration {
 
         within("", -1);
         add("lblLabel", frmZeitIntervall::Lbl::Auftragsname, ControlKind::Label);
+        add("fraFrame", frmZeitIntervall::Fra::NaechsteAusfuehrungen, ControlKind::Frame,
+            "Nächste Ausführungen", "", "");
+        within("fraFrame", frmZeitIntervall::Fra::NaechsteAusfuehrungen);
+        add("grdNaechsteAusfuehrungen", -1, ControlKind::Grid);
+        within("", -1);
         add("cmdCommandButton", frmZeitIntervall::Cmd::Ok, ControlKind::Button, "OK");
         add("cmdCommandButton", frmZeitIntervall::Cmd::Abbrechen, ControlKind::Button, "Abbrechen");
         return d_;
@@ -134,6 +139,10 @@ void frmZeitIntervall::onControl(const ControlEvent& e) {
         helpKey(e.keyCode, e.shift);
         return;
     }
+    if (e.type == EventType::Change) {
+        fire(evNaechsteAusfuehrungen);
+        return;
+    }
     if (e.type != EventType::Click) {
         return;
     }
@@ -147,5 +156,8 @@ void frmZeitIntervall::onControl(const ControlEvent& e) {
         fire(evFrmZeitintervallOptionEnddatumClicked, e.index);
     } else if (is(e, "cboComboBox")) {
         fire(evFrmZeitintervallComboboxClicked, e.index);
+    }
+    if (!is(e, "cmdCommandButton") && !is(e, "grdNaechsteAusfuehrungen")) {
+        fire(evNaechsteAusfuehrungen);
     }
 }

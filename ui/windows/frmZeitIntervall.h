@@ -2,6 +2,7 @@
 
 #include <functional>
 
+#include "ui/Grid.h"
 #include "ui/WindowContract.h"
 
 // The recurrence of a schedule: how often, how often a day, from when to when. The three
@@ -24,6 +25,7 @@ class frmZeitIntervall : public WindowContract {
         static constexpr int ProTag = 3;
         static constexpr int Dauer = 4;
         static constexpr int Woechentlich = 5;
+        static constexpr int NaechsteAusfuehrungen = 6;  // the list of the next starts
     };
     struct Haeufigkeit {
         static constexpr int Taeglich = 0;
@@ -104,6 +106,10 @@ class frmZeitIntervall : public WindowContract {
     IButton& cmdCommandButton(int index) {
         return get<IButton>(QStringLiteral("cmdCommandButton"), index);
     }
+    // "Nächste Ausführungen": the next starts of the recurrence as it stands in the window.
+    IGrid& grdNaechsteAusfuehrungen() {
+        return get<IGrid>(QStringLiteral("grdNaechsteAusfuehrungen"));
+    }
 
     // OK (0) or Abbrechen (1); the close box counts as Abbrechen.
     std::function<void(int index)> evFrmZeitintervallCommandButtonClicked;
@@ -115,6 +121,8 @@ class frmZeitIntervall : public WindowContract {
     std::function<void(int index)> evFrmZeitintervallComboboxClicked;
     // F1 without a shift key.
     std::function<void()> evFRMZeitplanHilfe;
+    // A field changed, by the user or by code; raised after the field's own event.
+    std::function<void()> evNaechsteAusfuehrungen;
 
   private:
     void onControl(const ControlEvent& e) override;

@@ -14,7 +14,7 @@ class Declaration {
         d_.caption = QStringLiteral("Eigenschaften Zeitplan");
         d_.keyPreview = true;  // F1 opens the help wherever the focus stands
         d_.width = 460;
-        d_.height = 320;
+        d_.height = 560;
 
         add("txtTextBox", frmZeitplan::Txt::Name, ControlKind::TextBox, "Name").maxLength =
             ColumnLimits::kZeitplanName;
@@ -30,6 +30,10 @@ class Declaration {
         container_ = QStringLiteral("frmFrame(%1)").arg(frmZeitplan::Fra::Intervall);
         add("lblLabel", frmZeitplan::Lbl::Intervall, ControlKind::Label);
         add("cmdCommandButton", frmZeitplan::Cmd::Aendern, ControlKind::Button, "Ändern...");
+        container_.clear();
+        add("fraNaechsteAusfuehrungen", -1, ControlKind::Frame, "Nächste Ausführungen");
+        container_ = QStringLiteral("fraNaechsteAusfuehrungen");
+        add("grdNaechsteAusfuehrungen", -1, ControlKind::Grid);
         container_.clear();
         add("cmdCommandButton", frmZeitplan::Cmd::Ok, ControlKind::Button, "OK");
         add("cmdCommandButton", frmZeitplan::Cmd::Abbrechen, ControlKind::Button, "Abbrechen");
@@ -84,6 +88,10 @@ void frmZeitplan::onControl(const ControlEvent& e) {
         }
     } else if (e.type == EventType::KeyDown) {
         onKeyDown(e.keyCode, e.shift);
+    }
+    if ((e.type == EventType::Change || e.type == EventType::Click) && !is(e, "cmdCommandButton") &&
+        !is(e, "grdNaechsteAusfuehrungen")) {
+        fire(evNaechsteAusfuehrungen);
     }
 }
 

@@ -2,6 +2,7 @@
 
 #include <functional>
 
+#include "ui/Grid.h"
 #include "ui/WindowContract.h"
 
 // The properties of one schedule: its name, whether it is active, and either a single run at
@@ -46,6 +47,10 @@ class frmZeitplan : public WindowContract {
     IButton& cmdCommandButton(int index) {
         return get<IButton>(QStringLiteral("cmdCommandButton"), index);
     }
+    // "Nächste Ausführungen": the next starts of the schedule as it stands in the window.
+    IGrid& grdNaechsteAusfuehrungen() {
+        return get<IGrid>(QStringLiteral("grdNaechsteAusfuehrungen"));
+    }
 
     // One of Cmd; the close box counts as Abbrechen.
     std::function<void(int index)> evFrmZeitplanCommandButtonClicked;
@@ -53,6 +58,8 @@ class frmZeitplan : public WindowContract {
     std::function<void(int index)> evFRMZeitplanOptOptionClicked;
     // F1 without a shift key, wherever the focus stands.
     std::function<void()> evFRMZeitplanHilfe;
+    // A field changed, by the user or by code; raised after the field's own event.
+    std::function<void()> evNaechsteAusfuehrungen;
 
   private:
     void onControl(const ControlEvent& e) override;
