@@ -289,6 +289,39 @@ CREATE TABLE tAutoJobEinstellungen (
 );
 
 ------------------------------------------------------------------------------
+-- Change journal
+------------------------------------------------------------------------------
+
+-- One row per change of a job or schedule, written in the transaction of the
+-- change itself.
+--   Zeitpunkt          the database server's time of the change
+--   Ps_Id_Mitarbeiter  who changed it (tMitarbeiter.MitId)
+--   Arbeitsplatz       host name of the workstation
+--   idAutoJob          the job; idAutoJobSchedule the schedule, NULL for a
+--                      change of the job itself
+--   Art                1 new, 2 changed, 3 deleted
+--   Vorher / Nachher   the row's columns as a JSON object, NULL where there
+--                      is no row
+--   Anlass             what caused it: "Bearbeiten", "Zeitplan", "Einfügen",
+--                      "Kopieren", "Aktivieren", "Deaktivieren", "Import",
+--                      "Löschen", "Wiederherstellen"
+CREATE TABLE tAutoJobJournal (
+    idAutoJobJournal    INTEGER PRIMARY KEY AUTOINCREMENT,
+    Zeitpunkt           DATETIME NOT NULL,
+    Ps_Id_Mitarbeiter   INTEGER NOT NULL DEFAULT 0,
+    Arbeitsplatz        VARCHAR(255) NOT NULL DEFAULT '',
+    idAutoJob           INTEGER NOT NULL DEFAULT 0,
+    idAutoJobSchedule   INTEGER,
+    Art                 INTEGER NOT NULL CHECK (Art IN (1, 2, 3)),
+    Vorher              TEXT,
+    Nachher             TEXT,
+    Anlass              VARCHAR(30) NOT NULL DEFAULT ''
+);
+-- The journal is read by job and newest first, or for all jobs by time.
+CREATE INDEX ixAutoJobJournal_JobZeit ON tAutoJobJournal (idAutoJob, Zeitpunkt);
+CREATE INDEX ixAutoJobJournal_Zeit ON tAutoJobJournal (Zeitpunkt);
+
+------------------------------------------------------------------------------
 -- Views
 ------------------------------------------------------------------------------
 

@@ -13,6 +13,7 @@
 #include <QVariant>
 #include <optional>
 
+#include "app/JournalAnlass.h"
 #include "app/cSchedule.h"
 #include "common/ColumnLimits.h"
 #include "host/JobTransferFields.h"
@@ -478,10 +479,13 @@ QList<PlannedJob> readDocument(QStringList& problems, const Lookups& lookups,
 void write(CRecordset& recordset, const QList<PlannedJob>& jobs, long staffId,
            const QDateTime& now) {
     recordset.Connect();
-    for (const PlannedJob& job : jobs) {
-        const long jobId = JobStore::insert(recordset, job.record, staffId, now);
-        for (const cSchedule& s : job.schedules) {
-            ScheduleStore::insert(recordset, s, jobId, staffId, now);
+    {
+        const JournalAnlass anlass(recordset, QStringLiteral("Import"));
+        for (const PlannedJob& job : jobs) {
+            const long jobId = JobStore::insert(recordset, job.record, staffId, now);
+            for (const cSchedule& s : job.schedules) {
+                ScheduleStore::insert(recordset, s, jobId, staffId, now);
+            }
         }
     }
     recordset.Disconnect();

@@ -17,6 +17,7 @@
 #include "host/ForecastCommand.h"
 #include "host/HostMainWindow.h"
 #include "host/JobTransferCommands.h"
+#include "host/JournalCsv.h"
 #include "suite/SuiteConfig.h"
 
 namespace {
@@ -27,6 +28,8 @@ struct Options {
     QString shot;
     QString exportFile;
     QString importFile;
+    bool journal = false;
+    QString journalJob;
     bool forecast = false;
     ForecastCommand::Arguments forecastArguments;
 };
@@ -45,8 +48,8 @@ bool prepareDisplay(int argc, char* argv[]) {
     const bool windowless =
         hasArgument(argc, argv, "--summary") || hasArgument(argc, argv, "--export") ||
         hasArgument(argc, argv, "--import") || hasArgument(argc, argv, "--shot") ||
-        hasArgument(argc, argv, "--vorschau") || hasArgument(argc, argv, "--help") ||
-        hasArgument(argc, argv, "-h");
+        hasArgument(argc, argv, "--journal") || hasArgument(argc, argv, "--vorschau") ||
+        hasArgument(argc, argv, "--help") || hasArgument(argc, argv, "-h");
     if (!qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM") ||
         !qEnvironmentVariableIsEmpty("DISPLAY") ||
         !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY")) {
@@ -108,6 +111,11 @@ Options parseOptions(const QApplication& app, SuiteConfig& config) {
         QStringLiteral("Fügt die Aufträge aus DATEI (von --export geschrieben) als neue "
                        "Aufträge hinzu; hat die Datei einen Fehler, wird nichts geschrieben."),
         QStringLiteral("DATEI"));
+    const QCommandLineOption journal(
+        QStringLiteral("journal"),
+        QStringLiteral("Schreibt das Änderungsprotokoll als CSV (Semikolon, UTF-8) auf die "
+                       "Standardausgabe: mit einer folgenden Auftrags-Id das dieses Auftrags, "
+                       "sonst das aller Aufträge."));
     const QCommandLineOption vorschau(
         QStringLiteral("vorschau"),
         QStringLiteral("Gibt die Starts der aktiven Zeitpläne aktiver Aufträge aus, je Zeile "
@@ -128,7 +136,7 @@ Options parseOptions(const QApplication& app, SuiteConfig& config) {
         QStringLiteral("Konfiguration automatischer Aufträge. Ohne --db öffnet das Programm die "
                        "eingebettete Demodatenbank und legt sie beim ersten Start an."),
         {db, configFile, mandant, mitarbeiter, aktentyp, installationsart, summary, shot,
-         exportJobs, importJobs, vorschau, von, bis, auftrag});
+         exportJobs, importJobs, vorschau, von, bis, auftrag, journal});
     commandLine.process(app);
     const QCommandLineParser& parser = commandLine.parser();
 
@@ -151,6 +159,17 @@ Options parseOptions(const QApplication& app, SuiteConfig& config) {
     o.shot = parser.value(shot);
     o.exportFile = parser.value(exportJobs);
     o.importFile = parser.value(importJobs);
+    o.journal = parser.isSet(journal);
+    if (o.journal) {
+        const QStringList rest = parser.positionalArguments();
+        if (rest.size() > 1) {
+            QTextStream(stderr) << QStringLiteral(
+                "Nach --journal steht höchstens eine "
+                "Auftrags-Id.\n");
+            std::exit(EXIT_FAILURE);
+        }
+        o.journalJob = rest.value(0);
+    }
     o.forecast = parser.isSet(vorschau);
     o.forecastArguments = {parser.value(von), parser.value(bis), parser.value(auftrag)};
     if (!o.forecast && (parser.isSet(von) || parser.isSet(bis) || parser.isSet(auftrag))) {
@@ -184,7 +203,7 @@ int main(int argc, char* argv[]) {
         // A desktop user never sees the console: the window-less modes keep writing there,
         // the window says it in a message box.
         const QString text = databaseOpenFailureText(config->databasePath, e.err());
-        if (options.summary || options.forecast || !options.shot.isEmpty()) {
+        if (options.summary || options.forecast || options.journal || !options.shot.isEmpty()) {
             QTextStream(stderr) << QString(text).replace(QStringLiteral("\r\n"),
                                                          QStringLiteral("\n"))
                                 << "\n";
@@ -197,6 +216,9 @@ int main(int argc, char* argv[]) {
 
     if (!options.importFile.isEmpty()) {
         return JobTransfer::importCommand(program->database(), options.importFile, config->mitId);
+    }
+    if (options.journal) {
+        return JournalCsv::command(program->database(), options.journalJob);
     }
     if (options.forecast) {
         QTextStream out(stdout);

@@ -1,5 +1,6 @@
 // What the list does with its selected jobs, and the events of the list window and its
 // browser.
+#include "app/JournalAnlass.h"
 #include "app/LibraryObjects.h"
 #include "app/Required.h"
 #include "app/cAdminJob.h"
@@ -58,7 +59,11 @@ void cAdminJob::mLoescheJob() {
 
         auto oTL = neuesRecordset(ex);
         oTL->Connect();
-        const long lGeloescht = oTL->Execute(JobStore::deleteStatement(sBedingung));
+        long lGeloescht = 0;
+        {
+            const JournalAnlass anlass(*oTL, QStringLiteral("Löschen"));
+            lGeloescht = oTL->Execute(JobStore::deleteStatement(sBedingung));
+        }
         oTL->Close();
 
         long lLogeintraege = 0;

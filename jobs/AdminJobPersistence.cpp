@@ -1,5 +1,6 @@
 // Moving one job between the table tAutoJobJob and plain values: read, insert or update,
 // paste a copied job, and the caption of its last change.
+#include "app/JournalAnlass.h"
 #include "app/LibraryObjects.h"
 #include "app/Required.h"
 #include "app/cAdminJob.h"
@@ -206,6 +207,9 @@ void cAdminJob::mAuftragEinfuegen() {
         }
         rec.lJobId = -1;
         rec.lZeilenversion = RowConflict::kNichtGelesen;
+        auto oTL = neuesRecordset(ex);
+        oTL->Connect();
+        const JournalAnlass anlass(*oTL, QStringLiteral("Einfügen"));
         mAuftragSpeichern(rec);
         if (rec.lJobId <= 0) {
             return;  // the save has reported its failure

@@ -3,6 +3,7 @@
 #include <QRegularExpression>
 #include <cmath>
 
+#include "app/JournalAnlass.h"
 #include "common/ModuleHelpers.h"
 #include "common/Password.h"
 #include "common/Recordset.h"
@@ -63,6 +64,8 @@ QString touchStatement(long lJobId, long lMitarbeiter, long lZeilenversion) {
 
 void toggleActive(CRecordset& oTL) {
     const long lAktiv = oTL.ReadLong(QStringLiteral("Aktiviert"));
+    const JournalAnlass anlass(
+        oTL, lAktiv == 1 ? QStringLiteral("Deaktivieren") : QStringLiteral("Aktivieren"));
     oTL.WriteLong(QStringLiteral("Aktiviert"), lAktiv == 1 ? 0 : 1);
     oTL.Update(CRecordset::UpdateWrite, true);
 }

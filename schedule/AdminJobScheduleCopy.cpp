@@ -2,6 +2,7 @@
 // ticked at first, the ticks and what follows from them, and the copy run with its report.
 #include <utility>
 
+#include "app/JournalAnlass.h"
 #include "app/LibraryObjects.h"
 #include "app/Required.h"
 #include "app/cAdminJob.h"
@@ -266,6 +267,9 @@ void cAdminJob::mZeitplanKopieren(std::uint8_t byZeitplanUeberschreiben) {
         mlKopieNeu = 0;
         mbyKopieUeberschreiben = byZeitplanUeberschreiben;
 
+        auto oTL = neuesRecordset(ex);
+        oTL->Connect();
+        const JournalAnlass anlass(*oTL, QStringLiteral("Kopieren"));
         // One record, read once, serves every job.
         moSchedule = std::make_unique<cSchedule>();
         mSetzeScheduleObjektAusDB(static_cast<std::int32_t>(mlKopieZeitplanId));

@@ -11,9 +11,11 @@
 #include <QSqlDriver>
 #include <QSqlError>
 #include <QSqlQuery>
+#include <QSysInfo>
 #include <atomic>
 
 #include "common/DatabaseFiles.h"
+#include "suite/ChangeJournal.h"
 #include "suite/DatabaseRecordset.h"
 #include "suite/PostgresBackend.h"
 #include "suite/SchemaUpgrade.h"
@@ -143,6 +145,22 @@ void Database::setUpSqlite() {
     if (registerServerFunctions(handle, clock_.get()) != SQLITE_OK) {
         throw sqliteFailure(handle, QStringLiteral("getdate, datediff, len"));
     }
+    execute(handle, ChangeJournal::settingStatement(ChangeJournal::kArbeitsplatz,
+                                                    QSysInfo::machineHostName())
+                        .toUtf8()
+                        .constData());
+    installJournal();
+}
+
+void Database::installJournal() {
+    if (onServer_) {
+        return;
+    }
+    sqlite3* handle = sqliteHandle(connectionOf(connectionName_));
+    const QString failure = ChangeJournal::installSqliteTriggers(handle);
+    if (!failure.isEmpty()) {
+        throw SqlErrors::raised(ErrNumber::Database, failure);
+    }
 }
 
 bool Database::isEmpty() const {
@@ -151,6 +169,7 @@ bool Database::isEmpty() const {
 
 void Database::applySchema() {
     backend_->applySchema(connectionOf(connectionName_), resourceText(backend_->schemaResource()));
+    installJournal();
 }
 
 void Database::upgradeSchema() {
@@ -167,13 +186,19 @@ void Database::upgradeSchema() {
     if (!statements.isEmpty()) {
         runScript(statements.join(QStringLiteral(";\n")) + u';');
     }
+    installJournal();
 }
 
 QStringList Database::applyDemoData(const QString& folder) {
     QString script = resourceText(QStringLiteral(":/db/demo.sql"));
     script.replace(QStringLiteral("/srv/zpk"),
                    QString(folder).replace(u'\'', QStringLiteral("''")));
-    runScript(script);
+    // The demo's jobs are where a new database starts, no change of anyone's.
+    runScript(
+        ChangeJournal::settingStatement(ChangeJournal::kArbeitsplatz, QString()) +
+        QStringLiteral(";\n") + script + QStringLiteral(";\n") +
+        ChangeJournal::settingStatement(ChangeJournal::kArbeitsplatz, QSysInfo::machineHostName()) +
+        u';');
     QStringList folders;
     const QRegularExpression quoted(
         QStringLiteral("'(%1[^']*)'")

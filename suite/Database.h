@@ -72,6 +72,8 @@ class Database : public std::enable_shared_from_this<Database> {
     Database(QString path, QString connectionName, std::shared_ptr<IClock> clock);
     void openSqlite(int busyTimeoutMs);
     void setUpSqlite();
+    // The change journal's triggers on a SQLite connection (ChangeJournal.h).
+    void installJournal();
 
     QString path_;
     QString connectionName_;

@@ -355,9 +355,11 @@ void PostgresBackend::upgradeSchema(const QSqlDatabase& db) const {
             "SELECT (SELECT count(*) FROM information_schema.columns WHERE table_schema = "
             "current_schema() AND table_name = 'tautojobschedule' AND column_name = "
             "'zeilenversion') + (SELECT count(*) FROM pg_indexes WHERE schemaname = "
-            "current_schema() AND indexname = 'ixjobagentlogdaten_suche')");
+            "current_schema() AND indexname = 'ixjobagentlogdaten_suche') + (SELECT count(*) "
+            "FROM information_schema.tables WHERE table_schema = current_schema() AND "
+            "table_name = 'tautojobjournal')");
         QSqlQuery query = runSql(*this, db, added, {}, added);
-        return query.next() && query.value(0).toLongLong() < 2;
+        return query.next() && query.value(0).toLongLong() < 3;
     };
     if (!behind()) {
         return;

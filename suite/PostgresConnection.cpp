@@ -2,9 +2,11 @@
 
 #include <QSqlError>
 #include <QSqlQuery>
+#include <QSysInfo>
 #include <algorithm>
 
 #include "common/ErrObject.h"
+#include "suite/ChangeJournal.h"
 #include "suite/SqlErrors.h"
 
 namespace PostgresConnection {
@@ -74,6 +76,8 @@ void applySession(const QSqlDatabase& db, const Session& session) {
     query.exec(QStringLiteral("SET lock_timeout = %1").arg(std::max(session.lockTimeoutMs, 0)));
     query.exec(QStringLiteral("SET datestyle = ISO, YMD"));
     query.exec(QStringLiteral("SET client_min_messages = warning"));
+    query.exec(
+        ChangeJournal::settingStatement(ChangeJournal::kArbeitsplatz, QSysInfo::machineHostName()));
 }
 
 }  // namespace PostgresConnection

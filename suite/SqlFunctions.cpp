@@ -2,6 +2,7 @@
 
 #include <sqlite3.h>
 
+#include <QHash>
 #include <QString>
 
 #include "common/Clock.h"
@@ -91,6 +92,33 @@ int nocase(void*, int bytesA, const void* a, int bytesB, const void* b) {
                             Qt::CaseInsensitive);
 }
 
+// The connection's own settings, as the server keeps them per session: the change journal's
+// triggers read who writes, from where and why.
+using Settings = QHash<QString, QString>;
+
+void setConfig(sqlite3_context* ctx, int, sqlite3_value** argv) {
+    auto* settings = static_cast<Settings*>(sqlite3_user_data(ctx));
+    const QString value = textArgument(argv[1]);
+    settings->insert(textArgument(argv[0]), value);
+    const QByteArray text = value.toUtf8();
+    sqlite3_result_text(ctx, text.constData(), static_cast<int>(text.size()), SQLITE_TRANSIENT);
+}
+
+void currentSetting(sqlite3_context* ctx, int, sqlite3_value** argv) {
+    const auto* settings = static_cast<const Settings*>(sqlite3_user_data(ctx));
+    const auto found = settings->constFind(textArgument(argv[0]));
+    if (found == settings->constEnd()) {
+        sqlite3_result_null(ctx);
+        return;
+    }
+    const QByteArray text = found->toUtf8();
+    sqlite3_result_text(ctx, text.constData(), static_cast<int>(text.size()), SQLITE_TRANSIENT);
+}
+
+void deleteSettings(void* settings) {
+    delete static_cast<Settings*>(settings);
+}
+
 }  // namespace
 
 int registerServerFunctions(sqlite3* db, const IClock* clock) {
@@ -108,6 +136,18 @@ int registerServerFunctions(sqlite3* db, const IClock* clock) {
     }
     if (rc == SQLITE_OK) {
         rc = sqlite3_create_collation_v2(db, "NOCASE", SQLITE_UTF8, nullptr, nocase, nullptr);
+    }
+    if (rc == SQLITE_OK) {
+        // current_setting is registered first: the settings go with set_config, dropped last.
+        auto* settings = new Settings;
+        rc = sqlite3_create_function_v2(db, "current_setting", 2, SQLITE_UTF8, settings,
+                                        currentSetting, nullptr, nullptr, nullptr);
+        if (rc != SQLITE_OK) {
+            delete settings;
+        } else {
+            rc = sqlite3_create_function_v2(db, "set_config", 3, SQLITE_UTF8, settings, setConfig,
+                                            nullptr, nullptr, deleteSettings);
+        }
     }
     return rc;
 }

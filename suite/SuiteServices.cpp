@@ -4,6 +4,7 @@
 #include <QFileInfo>
 
 #include "suite/BookingLogViewerStandIn.h"
+#include "suite/ChangeJournal.h"
 #include "suite/CoreStandIns.h"
 #include "suite/CoreTexte.h"
 #include "suite/CoreTools.h"
@@ -58,5 +59,7 @@ std::shared_ptr<Database> openSuiteDatabase(const SuiteConfig& config,
             }
         }
     }
+    db->runScript(ChangeJournal::settingStatement(ChangeJournal::kMitarbeiter,
+                                                  QString::number(config.mitId)));
     return db;
 }

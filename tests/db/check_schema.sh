@@ -107,7 +107,7 @@ has_type() {     # object column type
 
 for t in tAutoJobJob tAutoJobSchedule tAutoJobVerlauf SYS_JobAgentLogDaten XB_Belegart_iKesto \
          person_wirtschaftsjahr tAutoJobOptionen tAutoJob tAutoJobEinstellungen \
-         tSuiteText tMitarbeiter tMandant tBrowserEinstellungen; do
+         tSuiteText tMitarbeiter tMandant tBrowserEinstellungen tAutoJobJournal; do
     has_object table "$t"
 done
 has_object view V_ZPK_Applications_System_AutoJob
@@ -119,6 +119,8 @@ has_columns tAutoJobJob idAutoJob Erstellt Name Beschreibung Aktiviert DatenArt 
 has_columns tAutoJobSchedule idAutoJobSchedule idAutoJob Name Aktiviert FreqencyType FrequencyRecurrenceFactor \
     FrequencyInterval FrequencyRelativeInterval FrequencySubDayinterval FrequencySubDay ActiveStartTimeOfDay \
     ActiveEndTimeOfDay ActiveStartDate ActiveEndDate LetzteAenderung Ps_Id
+has_columns tAutoJobJournal idAutoJobJournal Zeitpunkt Ps_Id_Mitarbeiter Arbeitsplatz idAutoJob \
+    idAutoJobSchedule Art Vorher Nachher Anlass
 has_columns tAutoJobVerlauf idAutoJobVerlauf idAutoJobSchedule LetzteAusfuehrung Erfolgreich MTAPath BackupPath ErrorMTA
 has_columns SYS_JobAgentLogDaten Id DatumUhrzeit LogTyp LogSubTyp JobArt AutoJobId MitarbeiterId
 has_columns XB_Belegart_iKesto Nummer Bezeichnung
@@ -152,7 +154,7 @@ fi
 # Date/time columns are recognised by their declared type
 for c in tAutoJobJob.Erstellt tAutoJobJob.LetzteAenderung tAutoJobSchedule.ActiveStartDate \
          tAutoJobSchedule.ActiveEndDate tAutoJobSchedule.LetzteAenderung tAutoJobVerlauf.LetzteAusfuehrung \
-         SYS_JobAgentLogDaten.DatumUhrzeit; do
+         SYS_JobAgentLogDaten.DatumUhrzeit tAutoJobJournal.Zeitpunkt; do
     has_type "${c%%.*}" "${c#*.}" DATETIME
 done
 for c in tAutoJobJob.Aktiviert tAutoJobJob.SingleLog tAutoJobJob.FremdFormat tAutoJobSchedule.Aktiviert \
@@ -162,7 +164,8 @@ done
 
 # Identity keys
 for tk in tAutoJobJob:idAutoJob tAutoJobSchedule:idAutoJobSchedule tAutoJobVerlauf:idAutoJobVerlauf \
-          SYS_JobAgentLogDaten:Id tMitarbeiter:MitId tMandant:ManId person_wirtschaftsjahr:WJ_Id; do
+          SYS_JobAgentLogDaten:Id tMitarbeiter:MitId tMandant:ManId person_wirtschaftsjahr:WJ_Id \
+          tAutoJobJournal:idAutoJobJournal; do
     expect "${tk%%:*}.${tk#*:} is an identity key" \
         "SELECT count(*) FROM pragma_table_info('${tk%%:*}') WHERE pk = 1 AND name = '${tk#*:}' AND type = 'INTEGER'
             AND (SELECT count(*) FROM pragma_table_info('${tk%%:*}') WHERE pk > 0) = 1
@@ -182,6 +185,8 @@ has_index() {
 has_index tAutoJobVerlauf idAutoJobSchedule LetzteAusfuehrung
 has_index tAutoJobVerlauf LetzteAusfuehrung
 has_index tAutoJobSchedule idAutoJob
+has_index tAutoJobJournal idAutoJob Zeitpunkt
+has_index tAutoJobJournal Zeitpunkt
 has_index SYS_JobAgentLogDaten DatumUhrzeit
 has_index SYS_JobAgentLogDaten AutoJobId
 has_index SYS_JobAgentLogDaten JobArt

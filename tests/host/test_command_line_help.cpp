@@ -52,7 +52,8 @@ TEST(CommandLineHelpTest, TheProgramsHelpIsGermanAndListsEveryOption) {
                 QStringLiteral("--summary "), QStringLiteral("--shot <DATEI>"),
                 QStringLiteral("--export <DATEI>"), QStringLiteral("--import <DATEI>"),
                 QStringLiteral("--vorschau "), QStringLiteral("--von <yyyy-MM-dd HH:mm:ss>"),
-                QStringLiteral("--bis <yyyy-MM-dd HH:mm:ss>"), QStringLiteral("--auftrag <ID>")});
+                QStringLiteral("--bis <yyyy-MM-dd HH:mm:ss>"), QStringLiteral("--auftrag <ID>"),
+                QStringLiteral("--journal ")});
 }
 
 TEST(CommandLineHelpTest, TheAgentsHelpIsGermanAndListsEveryOption) {

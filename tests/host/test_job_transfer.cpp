@@ -155,6 +155,19 @@ TEST_F(JobTransferTest, ANameThatExistsIsAddedAsANewJobAndNamedInTheReport) {
     EXPECT_EQ(scalar(QStringLiteral("select count(*) from tAutoJobJob where Name = "
                                     "'Lieferanten Autohaus Lindner'")),
               QStringLiteral("2"));
+    // The import is journaled as such, the new job and each of its schedules; the demo data
+    // before it is no change.
+    const QString neu = QStringLiteral("(select max(idAutoJob) from tAutoJobJob)");
+    EXPECT_EQ(
+        scalar(QStringLiteral("select count(*) from tAutoJobJournal where Anlass = 'Import' "
+                              "and Art = 1 and Vorher is null and idAutoJob = ") +
+               neu),
+        scalar(QStringLiteral("select 1 + count(*) from tAutoJobSchedule where idAutoJob = ") +
+               neu));
+    EXPECT_EQ(scalar(QStringLiteral("select count(*) from tAutoJobJournal where Anlass <> "
+                                    "'Import' or idAutoJob <> ") +
+                     neu),
+              QStringLiteral("0"));
     EXPECT_EQ(importReport(r),
               QStringLiteral("1 Auftrag importiert.\n\n"
                              "Diese Namen gab es schon; die Aufträge wurden als neue Aufträge "

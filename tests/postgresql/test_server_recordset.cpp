@@ -266,6 +266,25 @@ TEST_F(ServerRecordset, AConnectionTheServerDroppedIsOpenedAgainAndTheStatementR
     EXPECT_EQ(rs->ReadText("t"), "300ms");
 }
 
+TEST_F(ServerRecordset, AnOlderDatabaseGetsTheChangeJournalWithTheUpgrade) {
+    elsewhere("DROP TABLE tAutoJobJournal");
+    db->upgradeSchema();
+    db->upgradeSchema();  // once up to date, nothing is left to do
+    EXPECT_EQ(stored("SELECT string_agg(indexname, ',' ORDER BY indexname) FROM pg_indexes "
+                     "WHERE tablename = 'tautojobjournal' AND indexname LIKE 'ix%'"),
+              "ixautojobjournal_jobzeit,ixautojobjournal_zeit");
+    // An explicit id moves the identity up, as on every table with one.
+    elsewhere(
+        "INSERT INTO tAutoJobJournal (idAutoJobJournal, Zeitpunkt, idAutoJob, Art) "
+        "VALUES (7, '2026-11-22 10:00:00', 1, 1);"
+        "INSERT INTO tAutoJobJournal (Zeitpunkt, idAutoJob, Art) "
+        "VALUES ('2026-11-22 10:00:01', 1, 2)");
+    EXPECT_EQ(
+        stored("SELECT string_agg(idAutoJobJournal::text, ',' ORDER BY idAutoJobJournal) FROM "
+               "tAutoJobJournal"),
+        "7,8");
+}
+
 TEST_F(ServerRecordset, AnOlderDatabaseCountsTheWritesOfJobsAndSchedulesAfterTheUpgrade) {
     elsewhere(
         "ALTER TABLE tAutoJobJob DROP COLUMN Zeilenversion;"

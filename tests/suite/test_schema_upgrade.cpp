@@ -27,6 +27,17 @@ QString scalar(const QString& path, const char* sql) {
     return value;
 }
 
+// A database of the schema that the script then makes older, in dir.
+SuiteConfig olderDatabase(const QTemporaryDir& dir, const QString& script) {
+    SuiteConfig config;
+    config.databasePath = dir.filePath(QStringLiteral("alt.sqlite"));
+    config.paths.insert(83, dir.filePath(QStringLiteral("data")));
+    auto db = Database::open(config.databasePath, std::make_shared<SystemClock>());
+    db->applySchema();
+    db->runScript(script);
+    return config;
+}
+
 }  // namespace
 
 TEST(SchemaUpgrade, AnOlderDatabaseGetsTheMissingTablesAndTheNewViewsAndKeepsItsRows) {
@@ -79,20 +90,14 @@ TEST(SchemaUpgrade, AnOlderDatabaseGetsTheMissingTablesAndTheNewViewsAndKeepsIts
 
 TEST(SchemaUpgrade, JobsAndSchedulesOfAnOlderDatabaseCountTheirWritesAfterTheUpgrade) {
     QTemporaryDir dir;
-    SuiteConfig config;
-    config.databasePath = dir.filePath(QStringLiteral("alt.sqlite"));
-    config.paths.insert(83, dir.filePath(QStringLiteral("data")));
-    {
-        auto db = Database::open(config.databasePath, std::make_shared<SystemClock>());
-        db->applySchema();
-        db->runScript(
-            QStringLiteral("DROP TRIGGER trAutoJobJob_Zeilenversion;"
-                           "DROP TRIGGER trAutoJobSchedule_Zeilenversion;"
-                           "ALTER TABLE tAutoJobJob DROP COLUMN Zeilenversion;"
-                           "ALTER TABLE tAutoJobSchedule DROP COLUMN Zeilenversion;"
-                           "INSERT INTO tAutoJobJob (Name, DatenArt) VALUES ('Alt', 17);"
-                           "INSERT INTO tAutoJobSchedule (idAutoJob, Name) VALUES (1, 'Nachts');"));
-    }
+    const SuiteConfig config = olderDatabase(
+        dir,
+        QStringLiteral("DROP TRIGGER trAutoJobJob_Zeilenversion;"
+                       "DROP TRIGGER trAutoJobSchedule_Zeilenversion;"
+                       "ALTER TABLE tAutoJobJob DROP COLUMN Zeilenversion;"
+                       "ALTER TABLE tAutoJobSchedule DROP COLUMN Zeilenversion;"
+                       "INSERT INTO tAutoJobJob (Name, DatenArt) VALUES ('Alt', 17);"
+                       "INSERT INTO tAutoJobSchedule (idAutoJob, Name) VALUES (1, 'Nachts');"));
     {
         auto db = openSuiteDatabase(config, std::make_shared<SystemClock>());
         // Any writer counts: the agent, the sqlite3 shell, this program.
@@ -111,6 +116,32 @@ TEST(SchemaUpgrade, JobsAndSchedulesOfAnOlderDatabaseCountTheirWritesAfterTheUpg
     sqlite3_exec(db, "UPDATE tAutoJobJob SET Zeilenversion = 10", nullptr, nullptr, nullptr);
     sqlite3_close(db);
     EXPECT_EQ(scalar(path, "SELECT Zeilenversion FROM tAutoJobJob"), QStringLiteral("10"));
+}
+
+TEST(SchemaUpgrade, AnOlderDatabaseGetsTheChangeJournalWithItsIndexes) {
+    QTemporaryDir dir;
+    const SuiteConfig config =
+        olderDatabase(dir, QStringLiteral("INSERT INTO tAutoJobJob (Name) VALUES ('Alt');"
+                                          "DROP TABLE tAutoJobJournal;"));
+    const QString path = config.databasePath;
+    EXPECT_EQ(scalar(path, "SELECT count(*) FROM sqlite_master WHERE tbl_name = 'tAutoJobJournal'"),
+              QStringLiteral("0"));
+    {
+        // The connection that upgraded journals at once.
+        auto db = openSuiteDatabase(config, std::make_shared<SystemClock>());
+        db->runScript(QStringLiteral("UPDATE tAutoJobJob SET Name = 'Neu'"));
+    }
+    EXPECT_EQ(scalar(path, "SELECT Art || ' ' || Anlass FROM tAutoJobJournal"),
+              QStringLiteral("2 Bearbeiten"));
+    EXPECT_EQ(scalar(path,
+                     "SELECT group_concat(name, ',') FROM (SELECT name FROM sqlite_master "
+                     "WHERE tbl_name = 'tAutoJobJournal' ORDER BY name)"),
+              QStringLiteral("ixAutoJobJournal_JobZeit,ixAutoJobJournal_Zeit,tAutoJobJournal"));
+    EXPECT_EQ(
+        scalar(path, "SELECT group_concat(name, ',') FROM pragma_table_info('tAutoJobJournal')"),
+        QStringLiteral("idAutoJobJournal,Zeitpunkt,Ps_Id_Mitarbeiter,Arbeitsplatz,idAutoJob,"
+                       "idAutoJobSchedule,Art,Vorher,Nachher,Anlass"));
+    EXPECT_EQ(scalar(path, "SELECT Name FROM tAutoJobJob"), QStringLiteral("Neu"));
 }
 
 // A log made by an earlier version gets its full-text index, filled with the entries it has,
