@@ -8,7 +8,6 @@
 #include <QRegularExpression>
 #include <QSet>
 #include <QSqlDatabase>
-#include <QSqlError>
 #include <QSqlQuery>
 #include <QVariant>
 #include <optional>

@@ -3,6 +3,8 @@
 #include <QString>
 #include <cstdint>
 
+#include "app/RowConflict.h"
+
 // One job as the editor and the paste hand it to the database and get it back: the values
 // of a row of tAutoJobJob, in the order in which they travel.
 struct JobRecord {
@@ -25,7 +27,8 @@ struct JobRecord {
     bool bFremdFormat = false;
     QString sFremdDateifilter;
     QString sFremdMapping;
-    long lZeilenversion = -1;  // Zeilenversion of the row as read or written; -1 for none
+    // Zeilenversion of the row as read or written; kNichtGelesen for a row not read.
+    long lZeilenversion = RowConflict::kNichtGelesen;
 };
 
 // Whether a job type keeps an archive login (staff id and password) in its directory columns.

@@ -56,7 +56,7 @@ QString touchStatement(long lJobId, long lMitarbeiter, long lZeilenversion) {
         QStringLiteral("update tAutoJobJob set LetzteAenderung = getdate(), Ps_Id_Mitarbeiter=") +
         QString::number(lMitarbeiter) + QStringLiteral(" where idAutoJob like '") +
         QString::number(lJobId) + QStringLiteral("'");
-    if (lZeilenversion >= 0) {
+    if (lZeilenversion != RowConflict::kNichtGelesen) {
         sSql += QStringLiteral(" and Zeilenversion = ") + QString::number(lZeilenversion);
     }
     return sSql;

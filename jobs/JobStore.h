@@ -3,6 +3,7 @@
 #include <QDateTime>
 #include <QString>
 
+#include "app/RowConflict.h"
 #include "jobs/JobRecord.h"
 
 class CRecordset;
@@ -22,8 +23,9 @@ QString rowsQuery(const QString& sBedingung);
 QString deleteStatement(const QString& sBedingung);
 
 // The statement that stamps a job as changed now by lMitarbeiter, when its schedules changed;
-// with a row version (not -1), only while the row still has it.
-QString touchStatement(long lJobId, long lMitarbeiter, long lZeilenversion = -1);
+// with a row version read, only while the row still has it.
+QString touchStatement(long lJobId, long lMitarbeiter,
+                       long lZeilenversion = RowConflict::kNichtGelesen);
 
 // Turns the job on the record set's current row off when it is on, else on, and writes it.
 void toggleActive(CRecordset& oTL);

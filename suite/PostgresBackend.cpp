@@ -22,7 +22,6 @@ constexpr long kError = 1;
 constexpr long kBusy = 5;
 constexpr long kReadOnly = 8;
 constexpr long kFull = 13;
-constexpr long kCantOpen = 14;
 constexpr long kConstraint = 19;
 
 // A server's SQLSTATE as the result code SQLite gives for the same failure, so that a failure
@@ -42,7 +41,7 @@ long resultCode(const QString& state) {
     }
     if (state.startsWith(u"08") || state.startsWith(u"57P") || state.startsWith(u"28") ||
         state == u"3D000") {
-        return kCantOpen;
+        return SqlErrors::CantOpen;
     }
     return kError;
 }
@@ -298,7 +297,7 @@ RaisedError PostgresBackend::failure(const QSqlError& error, const QString& show
     if (!state.isEmpty() && !text.contains(state)) {
         text += QStringLiteral(" (SQLSTATE ") + state + u')';
     }
-    const long number = connectionLost(error) ? kCantOpen
+    const long number = connectionLost(error) ? SqlErrors::CantOpen
                         : state.isEmpty()     ? ErrNumber::Database
                                               : resultCode(state);
     if (number == kBusy) {

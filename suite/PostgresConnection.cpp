@@ -14,7 +14,6 @@ namespace PostgresConnection {
 namespace {
 
 // SQLite's result code for a database that cannot be opened, which the system reports.
-constexpr long kCantOpen = 14;
 
 QString connectOptions(const PostgresAddress& address, const Session& session) {
     QStringList options = address.options;
@@ -59,9 +58,9 @@ QSqlDatabase open(const QString& connectionName, const PostgresAddress& address,
     if (!db.open()) {
         const QSqlError error = db.lastError();
         forget(db, connectionName);
-        throw SqlErrors::raised(kCantOpen, error.databaseText().trimmed().isEmpty()
-                                               ? error.text().trimmed()
-                                               : error.databaseText().trimmed());
+        throw SqlErrors::raised(SqlErrors::CantOpen, error.databaseText().trimmed().isEmpty()
+                                                         ? error.text().trimmed()
+                                                         : error.databaseText().trimmed());
     }
     applySession(db, session);
     return db;

@@ -3,6 +3,7 @@
 namespace SqlErrors {
 
 namespace {
+// A text, then on a line of its own what follows it (the statement, the driver's words).
 QString withStatement(const QString& text, const QString& sql) {
     return sql.isEmpty() ? text : text + QStringLiteral("\r\n") + sql.trimmed();
 }
@@ -13,24 +14,20 @@ RaisedError raised(long number, const QString& description) {
 }
 
 RaisedError lockWait(long number, const QString& driverText) {
-    return raised(
-        number, driverText.isEmpty() ? kLockWait : kLockWait + QStringLiteral("\r\n") + driverText);
+    return raised(number, withStatement(kLockWait, driverText));
 }
 
 RaisedError serverAway(const QString& driverText) {
-    constexpr long kCantOpen = 14;  // SQLite's "unable to open", as for a server refusing
-    return raised(kCantOpen, driverText.isEmpty()
-                                 ? kServerAway
-                                 : kServerAway + QStringLiteral("\r\n") + driverText);
+    return raised(CantOpen, withStatement(kServerAway, driverText));
 }
 
 RaisedError serverBack(const QString& driverText) {
-    constexpr long kCantOpen = 14;
-    const QString text = QStringLiteral(
-        "Die Verbindung zum Datenbankserver war unterbrochen und ist wieder hergestellt. Bitte "
-        "wiederholen Sie die Aktion; Ihre Eingaben bleiben erhalten.");
-    return raised(kCantOpen,
-                  driverText.isEmpty() ? text : text + QStringLiteral("\r\n") + driverText);
+    return raised(CantOpen,
+                  withStatement(QStringLiteral("Die Verbindung zum Datenbankserver war "
+                                               "unterbrochen und ist wieder hergestellt. Bitte "
+                                               "wiederholen Sie die Aktion; Ihre Eingaben bleiben "
+                                               "erhalten."),
+                                driverText));
 }
 
 RaisedError fromDriver(const QSqlError& error, const QString& sql) {

@@ -13,6 +13,8 @@ inline constexpr const char* source = "hdata.CRecordset";
 
 // Numbers of the data library beyond those of common/ErrObject.h.
 constexpr long Overflow = 6;
+// SQLite's "unable to open": also a server that refuses the connection or is away.
+constexpr long CantOpen = 14;
 constexpr long InvalidArgument = 3001;
 constexpr long NoCurrentRecord = 3021;
 constexpr long NotInCollection = 3265;

@@ -1,10 +1,13 @@
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <QApplication>
 #include <QList>
 #include <QPair>
 #include <QString>
 #include <QStringList>
+#include <QTest>
 #include <QVariant>
 #include <memory>
 #include <ostream>
@@ -33,6 +36,33 @@ inline ControlDecl decl(const char* name, ControlKind kind, int index = -1,
 // Every declared control that has a widget shows under its name with its caption (beside it
 // or on it) and, when checkHints is set, its hint as tool tip.
 void expectDeclaredControlsShown(QtWindow& qt, const WindowDecl& decl, bool checkHints);
+
+// A window contract on Qt widgets, off screen, with the events it raises kept as text by the
+// test. Shown at once, or by show() once the test has connected the events it watches.
+template <class Form>
+struct QtForm {
+    explicit QtForm(bool shownAtOnce = true) {
+        auto w = factory.create(Form::declaration());
+        qt = dynamic_cast<QtWindow*>(w.get());
+        form = std::make_unique<Form>(std::move(w));
+        if (shownAtOnce) {
+            show();
+        }
+    }
+    void show() {
+        form->window().Show(false);
+        EXPECT_TRUE(QTest::qWaitForWindowExposed(qt->widget()));
+    }
+    QWidget* widget(const char* name, int index = -1) {
+        QtControlView* v = qt->view(QString::fromUtf8(name), index);
+        return v ? v->widget() : nullptr;
+    }
+
+    QtWindowFactory factory;
+    QtWindow* qt = nullptr;
+    std::unique_ptr<Form> form;
+    QStringList events;
+};
 
 // One line per event, as the in-memory kit's tests write them.
 using headless_test::describe;

@@ -12,27 +12,14 @@ namespace {
 using P = frmAusfuehrungsplan;
 
 // The plan window on Qt widgets with the events it raises kept as text.
-struct QtPlan {
-    QtPlan() {
-        auto w = factory.create(frmAusfuehrungsplan::declaration());
-        qt = dynamic_cast<QtWindow*>(w.get());
-        form = std::make_unique<frmAusfuehrungsplan>(std::move(w));
+struct QtPlan : QtForm<frmAusfuehrungsplan> {
+    QtPlan() : QtForm(false) {
         form->evCommandButtonClicked = [this](int i) {
             events << QStringLiteral("Button %1").arg(i);
         };
         form->evComboboxClicked = [this](int i) { events << QStringLiteral("Combo %1").arg(i); };
-        form->window().Show(false);
-        EXPECT_TRUE(QTest::qWaitForWindowExposed(qt->widget()));
+        show();
     }
-    QWidget* widget(const char* name, int index = -1) {
-        QtControlView* v = qt->view(QString::fromUtf8(name), index);
-        return v ? v->widget() : nullptr;
-    }
-
-    QtWindowFactory factory;
-    QtWindow* qt = nullptr;
-    std::unique_ptr<frmAusfuehrungsplan> form;
-    QStringList events;
 };
 
 TEST(QtFrmAusfuehrungsplan, EveryControlHasItsWidgetAndCaption) {

@@ -15,31 +15,8 @@ using namespace qt_test;
 
 namespace {
 
-// A window contract on Qt widgets, shown off screen, with the events it raises kept as text.
-template <class Form>
-struct QtForm {
-    QtForm() {
-        auto w = factory.create(Form::declaration());
-        qt = dynamic_cast<QtWindow*>(w.get());
-        form = std::make_unique<Form>(std::move(w));
-    }
-    void show() {
-        form->window().Show(false);
-        EXPECT_TRUE(QTest::qWaitForWindowExposed(qt->widget()));
-    }
-    QWidget* widget(const char* name, int index = -1) {
-        QtControlView* v = qt->view(QString::fromUtf8(name), index);
-        return v ? v->widget() : nullptr;
-    }
-
-    QtWindowFactory factory;
-    QtWindow* qt = nullptr;
-    std::unique_ptr<Form> form;
-    QStringList events;
-};
-
 TEST(QtFrmLogDaten, TheBrowserFillsTheWindowBelowTheSearchAndTheCloseBoxEndsIt) {
-    QtForm<frmLogDaten> f;
+    QtForm<frmLogDaten> f(false);
     f.form->evSchliessen = [&] { f.events << QStringLiteral("Schliessen"); };
     f.form->evSuchen = [&] { f.events << QStringLiteral("Suchen"); };
     f.show();
@@ -72,7 +49,7 @@ TEST(QtFrmLogDaten, TheBrowserFillsTheWindowBelowTheSearchAndTheCloseBoxEndsIt) 
 }
 
 TEST(QtFrmLogDaten, CtrlFInTheBrowserFocusesTheSearchAndEscapeEndsIt) {
-    QtForm<frmLogDaten> f;
+    QtForm<frmLogDaten> f(false);
     f.form->evSucheBeenden = [&] { f.events << QStringLiteral("Beenden"); };
     f.show();
     auto* browser = dynamic_cast<QtBrowser*>(f.qt->view(QStringLiteral("ctlLogDaten")));
@@ -95,7 +72,7 @@ TEST(QtSearchMarksTest, MarksEveryWordThatBeginsWithASearchedWordInAnyCase) {
 }
 
 TEST(QtFrmLogDatenDel, EveryControlHasItsCaptionAndTheButtonsRaiseTheirIndex) {
-    QtForm<frmLogDatenDel> f;
+    QtForm<frmLogDatenDel> f(false);
     f.form->evAktion = [&](int i) { f.events << QStringLiteral("Aktion %1").arg(i); };
     f.show();
     qt_test::expectDeclaredControlsShown(*f.qt, frmLogDatenDel::declaration(), false);
@@ -105,7 +82,7 @@ TEST(QtFrmLogDatenDel, EveryControlHasItsCaptionAndTheButtonsRaiseTheirIndex) {
 }
 
 TEST(QtFrmLogDatenDetails, FieldsAreLockedAndEveryToolButTheDisplayRaisesNavigation) {
-    QtForm<frmLogDatenDetails> f;
+    QtForm<frmLogDatenDetails> f(false);
     f.form->evNavigation = [&](const QString& tool) { f.events << tool; };
     f.form->evSchliessen = [&] { f.events << QStringLiteral("Schliessen"); };
     f.show();

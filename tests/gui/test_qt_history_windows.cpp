@@ -17,27 +17,6 @@ using namespace qt_test;
 
 namespace {
 
-// One window of the history on Qt widgets.
-template <class Form>
-struct QtForm {
-    QtForm() {
-        auto w = factory.create(Form::declaration());
-        qt = dynamic_cast<QtWindow*>(w.get());
-        form = std::make_unique<Form>(std::move(w));
-        form->window().Show(false);
-        EXPECT_TRUE(QTest::qWaitForWindowExposed(qt->widget()));
-    }
-    QWidget* widget(const char* name, int index = -1) {
-        QtControlView* v = qt->view(QString::fromUtf8(name), index);
-        return v ? v->widget() : nullptr;
-    }
-
-    QtWindowFactory factory;
-    QtWindow* qt = nullptr;
-    std::unique_ptr<Form> form;
-    QStringList events;
-};
-
 TEST(QtHistoryWindows, EveryControlHasItsWidgetAndCaption) {
     QtForm<frmVerlauf> verlauf;
     EXPECT_EQ(verlauf.qt->widget()->windowTitle(), "Auftragsverlauf");

@@ -42,19 +42,13 @@ SuiteConfig olderDatabase(const QTemporaryDir& dir, const QString& script) {
 
 TEST(SchemaUpgrade, AnOlderDatabaseGetsTheMissingTablesAndTheNewViewsAndKeepsItsRows) {
     QTemporaryDir dir;
-    SuiteConfig config;
-    config.databasePath = dir.filePath(QStringLiteral("alt.sqlite"));
-    config.paths.insert(83, dir.filePath(QStringLiteral("data")));
-    {
-        auto db = Database::open(config.databasePath, std::make_shared<SystemClock>());
-        db->applySchema();
-        db->runScript(QStringLiteral(
-            "DROP TABLE tBrowserEinstellungen;"
-            "DROP VIEW V_ZPK_Applications_System_AutoJob;"
-            "CREATE VIEW V_ZPK_Applications_System_AutoJob AS SELECT idAutoJob AS JobId "
-            "FROM tAutoJobJob;"
-            "INSERT INTO tAutoJobJob (Name, DatenArt, MandKanz) VALUES ('Alt', 17, 3);"));
-    }
+    const SuiteConfig config = olderDatabase(
+        dir, QStringLiteral("DROP TABLE tBrowserEinstellungen;"
+                            "DROP VIEW V_ZPK_Applications_System_AutoJob;"
+                            "CREATE VIEW V_ZPK_Applications_System_AutoJob AS SELECT idAutoJob "
+                            "AS JobId FROM tAutoJobJob;"
+                            "INSERT INTO tAutoJobJob (Name, DatenArt, MandKanz) VALUES ('Alt', "
+                            "17, 3);"));
     const QString wantedView = [] {
         for (const SchemaObject& o : schemaObjects(
                  QStringLiteral("CREATE TABLE t (a); CREATE VIEW v AS SELECT a FROM t;"))) {
@@ -148,20 +142,15 @@ TEST(SchemaUpgrade, AnOlderDatabaseGetsTheChangeJournalWithItsIndexes) {
 // and what is written after is indexed by the database itself.
 TEST(SchemaUpgrade, AnOlderLogIsIndexedAndWritesAfterAreIndexedByTheDatabase) {
     QTemporaryDir dir;
-    SuiteConfig config;
-    config.databasePath = dir.filePath(QStringLiteral("alt.sqlite"));
-    config.paths.insert(83, dir.filePath(QStringLiteral("data")));
-    {
-        auto db = Database::open(config.databasePath, std::make_shared<SystemClock>());
-        db->applySchema();
-        db->runScript(QStringLiteral(
+    const SuiteConfig config = olderDatabase(
+        dir,
+        QStringLiteral(
             "DROP TRIGGER trJobAgentLogDaten_SucheNeu;"
             "DROP TRIGGER trJobAgentLogDaten_SucheWeg;"
             "DROP TRIGGER trJobAgentLogDaten_SucheNeuText;"
             "DROP TABLE SYS_JobAgentLogDaten_Suche;"
             "INSERT INTO SYS_JobAgentLogDaten (LogTyp, Text) VALUES (2, 'Rechnungsstapel März');"
             "INSERT INTO SYS_JobAgentLogDaten (LogTyp, Text) VALUES (2, 'Kunden importiert');"));
-    }
     {
         auto db = openSuiteDatabase(config, std::make_shared<SystemClock>());
         EXPECT_EQ(scalar(config.databasePath,
