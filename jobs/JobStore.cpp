@@ -56,6 +56,9 @@ QString touchStatement(long lJobId, long lMitarbeiter, long lZeilenversion) {
         QStringLiteral("update tAutoJobJob set LetzteAenderung = getdate(), Ps_Id_Mitarbeiter=") +
         QString::number(lMitarbeiter) + QStringLiteral(" where idAutoJob like '") +
         QString::number(lJobId) + QStringLiteral("'");
+    // Beyond the stamp as the editor has always written it: with the version its window read,
+    // so that the stamp neither lands on a job another workstation changed meanwhile nor
+    // hides that change from the window's next save.
     if (lZeilenversion != RowConflict::kNichtGelesen) {
         sSql += QStringLiteral(" and Zeilenversion = ") + QString::number(lZeilenversion);
     }
